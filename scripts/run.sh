@@ -1,0 +1,21 @@
+#!/usr/bin/env bash
+# Builds the library and its tool, then runs the main job.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+source scripts/deps.sh
+ensure_packages
+
+cmake -S . -B build/run -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DBUILD_TESTING=OFF $(launcher_args) >/dev/null
+cmake --build build/run -j "$(nproc)"
+
+tool=build/run/tools/libcontrol/libcontrol
+show() { echo "\$ libcontrol $*"; "$tool" "$@"; echo; }
+
+show --help
+show round 1.005 2
+show round -1.005 2
+show amount 1234.5
+show amount 12 0
+show percent netfile 12.5 -3
+show percent at1 12.5 4
+show address CA ON Toronto "100 Queen Street West" "Suite 2500" "M5H 2N2"

@@ -1,0 +1,16 @@
+#ifndef LIBCONTROL_TOOLS_COMMANDS_H
+#define LIBCONTROL_TOOLS_COMMANDS_H
+
+#include "commandline.h"
+
+// One function per tool command; the table that names them is in main.cpp.
+namespace Tool {
+
+int roundCommand(Context &ctx);
+int amountCommand(Context &ctx);
+int percentCommand(Context &ctx);
+int addressCommand(Context &ctx);
+
+} // namespace Tool
+
+#endif

@@ -1,0 +1,56 @@
+// libcontrol: the library's command-line companion for application
+// developers and support staff.
+
+#include "commands.h"
+
+#include <QCoreApplication>
+
+#include <cstring>
+
+namespace {
+
+using Tool::Command;
+
+// The one command table: new commands get a row here and a function in a
+// cmd_*.cpp file.
+Command const Commands[] = {
+    {"round", "VALUE DECISION", "round an amount by decision code (0, 2, 4, 5, 6)", Tool::roundCommand},
+    {"amount", "VALUE [DECIMALS]", "an amount as the forms print it", Tool::amountCommand},
+    {"percent", "netfile|at1 VALUE DECIMALS", "a percentage as the Netfile or AT1 record writes it",
+     Tool::percentCommand},
+    {"address", "COUNTRY PROVINCE CITY LINE1 LINE2 POSTAL", "the 104-character corporate address block",
+     Tool::addressCommand},
+};
+
+void printHelp(QTextStream &out)
+{
+    out << "Usage: libcontrol COMMAND [ARGUMENTS...]\n\nCommands:\n";
+    for (Command const &command : Commands) {
+        out << "  " << command.name << ' ' << command.synopsis << '\n'
+            << "      " << command.summary << '\n';
+    }
+    out << "\nlibcontrol --help shows this list.\n";
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QCoreApplication app(argc, argv);
+    QTextStream out(stdout);
+    QTextStream err(stderr);
+    QStringList args = app.arguments().mid(1);
+    if (args.isEmpty() || args.first() == QLatin1String("--help") || args.first() == QLatin1String("-h")) {
+        printHelp(out);
+        return args.isEmpty() ? Tool::Usage : Tool::Ok;
+    }
+    QString const name = args.takeFirst();
+    for (Command const &command : Commands) {
+        if (name == QLatin1String(command.name)) {
+            Tool::Context ctx{args, out, err};
+            return command.run(ctx);
+        }
+    }
+    err << "libcontrol: unknown command \"" << name << "\" (see libcontrol --help)\n";
+    return Tool::Usage;
+}
