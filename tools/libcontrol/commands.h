@@ -11,6 +11,16 @@ int amountCommand(Context &ctx);
 int percentCommand(Context &ctx);
 int addressCommand(Context &ctx);
 
+// Checks and catalogues
+
+
+// Form files and outputs
+
+
+// Services
+
+
+
 } // namespace Tool
 
 #endif

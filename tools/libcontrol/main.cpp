@@ -20,6 +20,16 @@ Command const Commands[] = {
      Tool::percentCommand},
     {"address", "COUNTRY PROVINCE CITY LINE1 LINE2 POSTAL", "the 104-character corporate address block",
      Tool::addressCommand},
+
+    // Checks and catalogues
+
+
+    // Form files and outputs
+
+
+    // Services
+
+
 };
 
 void printHelp(QTextStream &out)
