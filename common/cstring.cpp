@@ -68,13 +68,14 @@ char CString::GetAt(int index) const
 
 void CString::TrimLeft()
 {
-    static QRegularExpression const leading(QStringLiteral("^\\s+"));
+    // Unicode properties on, so that every Unicode space counts.
+    static QRegularExpression const leading(QStringLiteral("^\\s+"), QRegularExpression::UseUnicodePropertiesOption);
     remove(leading);
 }
 
 void CString::TrimRight()
 {
-    static QRegularExpression const trailing(QStringLiteral("\\s+$"));
+    static QRegularExpression const trailing(QStringLiteral("\\s+$"), QRegularExpression::UseUnicodePropertiesOption);
     remove(trailing);
 }
 
