@@ -12,6 +12,7 @@ int percentCommand(Context &ctx);
 int addressCommand(Context &ctx);
 
 // Checks and catalogues
+int checkCommand(Context &ctx);
 
 
 // Form files and outputs

@@ -22,6 +22,9 @@ Command const Commands[] = {
      Tool::addressCommand},
 
     // Checks and catalogues
+    {"check", "sin|bn|gst|trust|partnership|taxshelter|nisapin|postal|zip|phone|email VALUE...",
+     "check identifiers, postal codes, phone numbers or e-mail addresses; exit 1 when any is refused",
+     Tool::checkCommand},
 
 
     // Form files and outputs
