@@ -33,6 +33,17 @@ bool isWellFormedBase64(QByteArray const &compact)
     return true;
 }
 
+int hexValue(char c)
+{
+    if (c >= '0' && c <= '9')
+        return c - '0';
+    if (c >= 'a' && c <= 'f')
+        return c - 'a' + 10;
+    if (c >= 'A' && c <= 'F')
+        return c - 'A' + 10;
+    return -1;
+}
+
 } // namespace
 
 QByteArray base64Encode(QByteArray const &data)
@@ -62,7 +73,20 @@ QByteArray urlEncode(QString const &text)
 
 QString urlDecode(QByteArray const &encoded)
 {
-    return QUrl::fromPercentEncoding(encoded);
+    // Qt's decoder turns a malformed escape into a garbage byte; keep it instead.
+    QByteArray bytes;
+    bytes.reserve(encoded.size());
+    for (int i = 0; i < encoded.size(); ++i) {
+        int const high = i + 2 < encoded.size() ? hexValue(encoded.at(i + 1)) : -1;
+        int const low = high >= 0 ? hexValue(encoded.at(i + 2)) : -1;
+        if (encoded.at(i) == '%' && low >= 0) {
+            bytes += char(high * 16 + low);
+            i += 2;
+        } else {
+            bytes += encoded.at(i);
+        }
+    }
+    return QString::fromUtf8(bytes);
 }
 
 QByteArray urlEncodeForm(QVector<QPair<QString, QString>> const &fields)

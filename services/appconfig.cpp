@@ -36,8 +36,10 @@ CAppConfig::~CAppConfig() = default;
 
 bool CAppConfig::readConfigFile(char const *path)
 {
+    if (!path || !*path)
+        return false;
     QFile file(QString::fromLocal8Bit(path));
-    if (!path || !file.open(QIODevice::ReadOnly | QIODevice::Text))
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
         return false;
     QTextStream in(&file);
     in.setCodec("UTF-8");

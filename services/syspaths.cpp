@@ -41,20 +41,19 @@ QString getQTBuildFolderNameVerStr()
 
 bool loadFileToQString(char const *path, QString &out, int)
 {
-    QFile file(QString::fromLocal8Bit(path));
-    if (!path || !file.open(QIODevice::ReadOnly))
+    if (!path || !*path)
         return false;
-    QByteArray bytes = file.readAll();
-    if (bytes.startsWith("\xEF\xBB\xBF"))
-        bytes.remove(0, 3);
-    out = QString::fromUtf8(bytes);
+    QFile file(QString::fromLocal8Bit(path));
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    out = QString::fromUtf8(file.readAll());
     return true;
 }
 
 int loadFileToString(CString const &path, std::string &out, int, int)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+    if (path.isEmpty() || !file.open(QIODevice::ReadOnly | QIODevice::Text))
         return 107;
     QTextStream in(&file);
     in.setCodec("UTF-8");

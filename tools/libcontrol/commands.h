@@ -19,6 +19,9 @@ int checkCommand(Context &ctx);
 
 
 // Services
+int sha1Command(Context &ctx);
+int sha256Command(Context &ctx);
+int configCommand(Context &ctx);
 
 
 

@@ -31,6 +31,9 @@ Command const Commands[] = {
 
 
     // Services
+    {"sha1", "FILE...", "SHA-1 digests in the sha1sum format (- for standard input)", Tool::sha1Command},
+    {"sha256", "FILE...", "SHA-256 digests in the sha256sum format (- for standard input)", Tool::sha256Command},
+    {"config", "FILE", "read a configuration file into a sample application's settings", Tool::configCommand},
 
 
 };
