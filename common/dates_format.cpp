@@ -32,8 +32,8 @@ DateLayout const *findLayout(int code)
     return nullptr;
 }
 
-constexpr QLatin1String DateTimeLayout("yyyy-MM-dd HH:mm:ssAP");
-constexpr QLatin1String CurrentTimeLayout("yyyy-MM-dd HH:mm:ss");
+QLatin1String const DateTimeLayout("yyyy-MM-dd HH:mm:ssAP");
+QLatin1String const CurrentTimeLayout("yyyy-MM-dd HH:mm:ss");
 
 // A part that is not a decimal number counts as 0 (toInt's failure value).
 int numberAt(QString const &text, int position, int length)

@@ -1,12 +1,23 @@
 #include <LibControl/common/xmlwriter.h>
 
+#include <cmath>
+#include <limits>
+
 namespace {
 
 constexpr int EscapeMask = 4 | 8;
 
+// Out-of-range amounts saturate and NaN gives 0 instead of an undefined cast.
 long long roundHalfAwayFromZero(double value)
 {
-    return static_cast<long long>(value > 0 ? value + 0.5 : value - 0.5);
+    double const rounded = std::trunc(value > 0 ? value + 0.5 : value - 0.5);
+    if (std::isnan(rounded))
+        return 0;
+    if (rounded >= 9.2233720368547758e18)
+        return std::numeric_limits<long long>::max();
+    if (rounded <= -9.2233720368547758e18)
+        return std::numeric_limits<long long>::min();
+    return static_cast<long long>(rounded);
 }
 
 } // namespace
@@ -46,16 +57,22 @@ CString convertToXMLString(CString const &text, int maxLength)
 
 void xmlWriteOpenTag(FILE *file, char const *tag)
 {
+    if (!file)
+        return;
     fprintf(file, "<%s>\n", tag);
 }
 
 void xmlWriteCloseTag(FILE *file, char const *tag)
 {
+    if (!file)
+        return;
     fprintf(file, "</%s>\n", tag);
 }
 
 void xmlWriteTag(FILE *file, char const *tag, CString const &value)
 {
+    if (!file)
+        return;
     fprintf(file, "<%s>%s</%s>\n", tag, convertToXMLString(value).toStdStringUTF8().c_str(), tag);
 }
 
@@ -68,7 +85,7 @@ void xmlWriteTagIfNotEmpty(FILE *file, char const *tag, CString const &value)
 {
     CString trimmed(value);
     trimmed.Trim();
-    if (trimmed.IsEmpty())
+    if (!file || trimmed.IsEmpty())
         return;
     // Double encoding on purpose: UTF-8 bytes re-read as Latin-1.
     xmlWriteTag(file, tag, trimmed.toStdStringUTF8().c_str());
@@ -81,12 +98,14 @@ void xmlWriteTagIfNotEmpty(FILE *file, char const *tag, char const *value)
 
 void xmlWriteTagForLong(FILE *file, char const *tag, double value)
 {
+    if (!file)
+        return;
     fprintf(file, "<%s>%lld</%s>\n", tag, roundHalfAwayFromZero(value), tag);
 }
 
 void xmlWriteTagForBool(FILE *file, char const *tag, bool value, bool onlyWhenTrue)
 {
-    if (onlyWhenTrue && !value)
+    if (!file || (onlyWhenTrue && !value))
         return;
     fprintf(file, "<%s>%s</%s>\n", tag, value ? "1" : "0", tag);
 }

@@ -7,7 +7,8 @@
 #include <cstdio>
 
 // Hand-written XML, one element per line, either to a C stream or appended
-// to a CString. No indentation and no attributes.
+// to a CString. No indentation and no attributes. The FILE* writers do
+// nothing for a null stream.
 
 /**
  * Escapes the five XML characters " ' & < > as &#34; &#39; &#38; &#60; &#62;.
@@ -35,7 +36,7 @@ LIBCONTROL_EXPORT void xmlWriteTag(FILE *file, char const *tag, CString const &v
  */
 LIBCONTROL_EXPORT void xmlWriteTagIfNotEmpty(FILE *file, char const *tag, char const *value);
 LIBCONTROL_EXPORT void xmlWriteTagIfNotEmpty(FILE *file, char const *tag, CString const &value);
-/** The value rounded half away from zero to a whole number. */
+/** The value rounded half away from zero to a whole number (saturating; NaN gives 0). */
 LIBCONTROL_EXPORT void xmlWriteTagForLong(FILE *file, char const *tag, double value);
 /** "1" or "0"; nothing at all when `onlyWhenTrue` and `value` is false. */
 LIBCONTROL_EXPORT void xmlWriteTagForBool(FILE *file, char const *tag, bool value, bool onlyWhenTrue);
