@@ -22,6 +22,8 @@ int checkCommand(Context &ctx);
 int sha1Command(Context &ctx);
 int sha256Command(Context &ctx);
 int configCommand(Context &ctx);
+int serveCommand(Context &ctx);
+int httpCommand(Context &ctx);
 
 
 

@@ -34,6 +34,10 @@ Command const Commands[] = {
     {"sha1", "FILE...", "SHA-1 digests in the sha1sum format (- for standard input)", Tool::sha1Command},
     {"sha256", "FILE...", "SHA-256 digests in the sha256sum format (- for standard input)", Tool::sha256Command},
     {"config", "FILE", "read a configuration file into a sample application's settings", Tool::configCommand},
+    {"serve", "PORT", "listen on 127.0.0.1:PORT and show each connection's bytes as they accumulate",
+     Tool::serveCommand},
+    {"http", "get|post URL [NAME=VALUE...]", "send a GET or a form POST and print the reply body (60 s limit)",
+     Tool::httpCommand},
 
 
 };
