@@ -14,7 +14,6 @@
  */
 class RecordingHttpServer : public QObject
 {
-    Q_OBJECT
 public:
     struct Request
     {
