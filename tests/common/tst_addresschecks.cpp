@@ -56,23 +56,17 @@ void tst_AddressChecks::personalNames_data()
     QTest::newRow("apostrophe and hyphen") << QByteArray("O'Neil-Smith") << true;
     QTest::newRow("refused last byte") << QByteArray("Smith#") << false;
     QTest::newRow("refused inner byte") << QByteArray("Jo#n") << false;
-    QTest::newRow("underscore inside") << QByteArray("Ann_e") << false;
-    QTest::newRow("exclamation mark inside") << QByteArray("Ann!e") << true;
-    QTest::newRow("initials with dots") << QByteArray("J. R. Smith") << true;
     QTest::newRow("two letters") << QByteArray("Jo") << true;
-    QTest::newRow("one letter") << QByteArray("J") << true;
     QTest::newRow("two bytes, only ends judged") << QByteArray("J-") << true;
     QTest::newRow("empty") << QByteArray("") << true;
     QTest::newRow("null") << QByteArray() << true;
     QTest::newRow("starts with a digit") << QByteArray("1John") << false;
-    QTest::newRow("ends with a digit") << QByteArray("John3") << true;
     QTest::newRow("ends with a hyphen") << QByteArray("Anne-") << true;
     QTest::newRow("ends with a full stop") << QByteArray("Anne.") << false;
     QTest::newRow("Latin-1 accent inside") << QByteArray("Ren\xE9"
                                                          "e")
                                            << true;
     QTest::newRow("Latin-1 accent first") << QByteArray("\xC9mile") << false;
-    QTest::newRow("Latin-1 accent last") << QByteArray("Jos\xE9") << false;
     QTest::newRow("UTF-8 accent inside") << QByteArray("Ren\xC3\xA9"
                                                        "e")
                                          << true;
@@ -92,11 +86,9 @@ void tst_AddressChecks::businessNames_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<bool>("accepted");
-    QTest::newRow("plain") << QStringLiteral("Les Cafes Ltd.") << false;
     QTest::newRow("plain ending in a letter") << QStringLiteral("Les Cafes Ltd") << true;
     QTest::newRow("accent inside") << QString::fromUtf8("Les Caf\u00E9s Ltd") << true;
     QTest::newRow("accent first") << QString::fromUtf8("\u00C9mile Inc") << false;
-    QTest::newRow("accent last") << QString::fromUtf8("Caf\u00E9") << false;
     QTest::newRow("Greek letter first") << QString::fromUtf8("\u03A9mega Ltd") << false;
     QTest::newRow("ampersand inside") << QStringLiteral("Smith & Sons") << false;
 }
@@ -113,16 +105,12 @@ void tst_AddressChecks::cityNames_data()
     QTest::addColumn<QString>("city");
     QTest::addColumn<bool>("accepted");
     QTest::newRow("accents in the table") << QString::fromUtf8("Saint-J\u00E9r\u00F4me") << true;
-    QTest::newRow("accent first") << QString::fromUtf8("\u00C9vain") << true;
     QTest::newRow("ring A is not in the table") << QString::fromUtf8("\u00C5ngstr\u00F6m") << false;
     QTest::newRow("tilde O is not in the table") << QString::fromUtf8("\u00D5") << false;
     QTest::newRow("multiplication sign is in the table") << QString::fromUtf8("\u00D7") << true;
     QTest::newRow("beyond Latin-1") << QString::fromUtf8("\u0141\u00F3d\u017A") << false;
-    QTest::newRow("apostrophe and full stop") << QStringLiteral("St. John's") << true;
     QTest::newRow("slash") << QStringLiteral("Grand Falls/Windsor") << true;
-    QTest::newRow("digit") << QStringLiteral("Kitchener 2") << true;
     QTest::newRow("exclamation mark") << QStringLiteral("Toronto!") << false;
-    QTest::newRow("underscore") << QStringLiteral("A_B") << false;
     QTest::newRow("empty") << QString() << true;
 }
 
@@ -167,15 +155,12 @@ void tst_AddressChecks::commonAddressRules_data()
     QTest::newRow("care-of marker") << QStringLiteral("c/o John") << false << QStringLiteral("c/o John");
     QTest::newRow("mixed-case marker not looked for")
         << QStringLiteral("C/o John") << true << QStringLiteral("C/o John");
-    QTest::newRow("at-suite marker") << QStringLiteral("5 Rue A/S Jean") << false << QStringLiteral("5 Rue A/S Jean");
     QTest::newRow("spaces trimmed in place")
         << QStringLiteral("  12 Main St \t") << true << QStringLiteral("12 Main St");
     QTest::newRow("blank becomes empty") << QStringLiteral("   ") << true << QString();
     QTest::newRow("leading number sign") << QStringLiteral("#12 Main") << false << QStringLiteral("#12 Main");
-    QTest::newRow("trailing number sign") << QStringLiteral("12 Main #") << false << QStringLiteral("12 Main #");
     QTest::newRow("trailing parenthesis")
         << QStringLiteral("12 Main (rear)") << false << QStringLiteral("12 Main (rear)");
-    QTest::newRow("leading hyphen") << QStringLiteral("-12 Main") << false << QStringLiteral("-12 Main");
 }
 
 void tst_AddressChecks::commonAddressRules()
@@ -199,13 +184,9 @@ void tst_AddressChecks::streetAndCareOfLines_data()
     QTest::newRow("name with ampersand") << QStringLiteral("Doe & Sons") << true << true;
     QTest::newRow("name with apostrophe and hyphen") << QStringLiteral("J. O'Brien-Smith") << true << true;
     QTest::newRow("last byte not letter, digit or full stop") << QStringLiteral("12 Main St!") << false << false;
-    QTest::newRow("exclamation mark inside") << QStringLiteral("12 Main!St") << false << false;
-    QTest::newRow("underscore inside") << QStringLiteral("12_Main") << false << false;
     QTest::newRow("accent inside refuses the line") << QString::fromUtf8("12 rue J\u00E9r\u00F4me") << false << false;
     QTest::newRow("Greek letter first") << QString::fromUtf8("\u03A9mega 12") << false << false;
     QTest::newRow("care-of marker") << QStringLiteral("C/O Jane Doe") << false << false;
-    QTest::newRow("trailing slash") << QStringLiteral("12 Main St/") << false << false;
-    QTest::newRow("single letter") << QStringLiteral("A") << true << true;
     QTest::newRow("empty") << QString() << true << true;
 }
 
@@ -250,9 +231,7 @@ void tst_AddressChecks::canadianPostalCodes_data()
     QTest::newRow("text after the seventh ignored") << QByteArray("K1A 0B1 extra") << true;
     QTest::newRow("underscore separator") << QByteArray("K1A_0B1") << false;
     QTest::newRow("five characters") << QByteArray("K1A0B") << false;
-    QTest::newRow("seven without a separator") << QByteArray("K1A0B1X") << false;
     QTest::newRow("two spaces") << QByteArray("K1A  0B1") << false;
-    QTest::newRow("digit first") << QByteArray("1KA0B1") << false;
     QTest::newRow("Latin-1 letter") << QByteArray("\xC9"
                                                   "1A0B1")
                                     << false;
@@ -272,18 +251,14 @@ void tst_AddressChecks::zipAndCountryCodes_data()
     QTest::addColumn<QByteArray>("code");
     QTest::addColumn<bool>("accepted");
     QTest::newRow("ZIP") << "zip" << QByteArray("12345") << true;
-    QTest::newRow("ZIP+4 without hyphen") << "zip" << QByteArray("123456789") << true;
     QTest::newRow("ZIP+4 with hyphen") << "zip" << QByteArray("12345-6789") << true;
     QTest::newRow("nine with a hyphen") << "zip" << QByteArray("12345-678") << true;
     QTest::newRow("hyphens anywhere") << "zip" << QByteArray("-----") << true;
     QTest::newRow("four digits") << "zip" << QByteArray("1234") << false;
-    QTest::newRow("six digits") << "zip" << QByteArray("123456") << false;
     QTest::newRow("letter") << "zip" << QByteArray("1234a") << false;
-    QTest::newRow("space") << "zip" << QByteArray("12345 6789") << false;
     QTest::newRow("country") << "country" << QByteArray("CAN") << true;
     QTest::newRow("country in lower case") << "country" << QByteArray("can") << false;
     QTest::newRow("two-letter country") << "country" << QByteArray("CA") << false;
-    QTest::newRow("four-letter country") << "country" << QByteArray("CANA") << false;
     QTest::newRow("country with a digit") << "country" << QByteArray("C1N") << false;
 }
 
@@ -334,7 +309,6 @@ void tst_AddressChecks::rawPhoneDigits_data()
     QTest::addColumn<QString>("digits");
     QTest::newRow("formatted number") << QStringLiteral("(416) 555-1234") << false << QStringLiteral("4165551234");
     QTest::newRow("short number padded") << QStringLiteral("555-1234") << true << QStringLiteral("5551234000");
-    QTest::newRow("short number unpadded") << QStringLiteral("555-1234") << false << QStringLiteral("5551234");
     QTest::newRow("long number not cut") << QStringLiteral("+1 416 555 1234") << true << QStringLiteral("14165551234");
     QTest::newRow("empty padded") << QString() << true << QStringLiteral("0000000000");
     QTest::newRow("Arabic-Indic digits dropped") << QString::fromUtf8("\u0664\u0661\u0666") << false << QString();
@@ -357,7 +331,6 @@ void tst_AddressChecks::phoneNumbers_data()
     QTest::addColumn<bool>("accepted");
     QTest::newRow("formatted") << QStringLiteral("(416) 555-1234") << false << true;
     QTest::newRow("with label text") << QStringLiteral("tel. 416 555 1234") << false << true;
-    QTest::newRow("with country code") << QStringLiteral("1-416-555-1234") << false << true;
     QTest::newRow("seven digits") << QStringLiteral("555-1234") << false << false;
     QTest::newRow("all zeros") << QStringLiteral("000-000-0000") << false << false;
     QTest::newRow("all zeros allowed") << QStringLiteral("000-000-0000") << true << true;
@@ -382,7 +355,6 @@ void tst_AddressChecks::phoneEntered_data()
     QTest::addColumn<bool>("entered");
     QTest::newRow("empty") << QString() << false;
     QTest::newRow("zeros with separators") << QStringLiteral("(000) 000-0000") << false;
-    QTest::newRow("area code only") << QStringLiteral("416") << true;
     QTest::newRow("last digit set") << QStringLiteral("0000000001") << true;
     QTest::newRow("eleventh digit not looked at") << QStringLiteral("00000000001") << false;
 }
@@ -420,20 +392,14 @@ void tst_AddressChecks::emailAddresses_data()
     QTest::addColumn<bool>("accepted");
     QTest::newRow("shortest") << QByteArray("a@b.c") << true;
     QTest::newRow("usual") << QByteArray("john_doe-1@mail.example.ca") << true;
-    QTest::newRow("hyphen anywhere in the domain") << QByteArray("a@b-.c") << true;
     QTest::newRow("no dot after the at sign") << QByteArray("a@bc") << false;
     QTest::newRow("no letter after the at sign") << QByteArray("a@1.2") << false;
     QTest::newRow("leading dot") << QByteArray(".a@b.c") << false;
     QTest::newRow("trailing dot") << QByteArray("a@b.c.") << false;
     QTest::newRow("dot before the at sign") << QByteArray("a.@b.c") << false;
-    QTest::newRow("dot after the at sign") << QByteArray("a@.b.c") << false;
     QTest::newRow("two dots") << QByteArray("a..b@c.d") << false;
     QTest::newRow("two at signs") << QByteArray("a@b@c.d") << false;
-    QTest::newRow("no at sign") << QByteArray("ab.c") << false;
-    QTest::newRow("nothing before the at sign") << QByteArray("@b.c") << false;
     QTest::newRow("only an underscore before the at sign") << QByteArray("_@b.c") << false;
-    QTest::newRow("space") << QByteArray("a b@c.d") << false;
-    QTest::newRow("plus sign") << QByteArray("a+b@c.d") << false;
     QTest::newRow("UTF-8 accented letter") << QByteArray("j\xC3\xA9@b.c") << false;
     QTest::newRow("empty") << QByteArray("") << false;
     QTest::newRow("null") << QByteArray() << false;

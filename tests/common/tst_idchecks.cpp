@@ -65,13 +65,10 @@ void tst_IdChecks::luhnCheckDigit_data()
     // 1 2*2=4 3 4*2=8 5 6*2=12->3 7 8*2=16->7: sum 38, check 2
     QTest::newRow("doubles folded to one digit") << QByteArray("123456782") << true;
     // body 1 2*2=4: sum 5, check 5
-    QTest::newRow("three digits") << QByteArray("125") << true;
     QTest::newRow("single zero") << QByteArray("0") << true;
     QTest::newRow("single five") << QByteArray("5") << false;
     // body 1: sum 1, check 9; the rule holds but the length is even
     QTest::newRow("even length satisfying the rule") << QByteArray("19") << false;
-    QTest::newRow("letter among digits") << QByteArray("12a") << false;
-    QTest::newRow("empty") << QByteArray("") << false;
     QTest::newRow("null") << QByteArray() << false;
     QTest::newRow("127 zeros, the longest") << QByteArray(127, '0') << true;
     QTest::newRow("129 zeros, too long") << QByteArray(129, '0') << false;
@@ -94,9 +91,7 @@ void tst_IdChecks::socialInsuranceNumber_data()
     QTest::newRow("wrong check digit") << QByteArray("046454287") << false;
     QTest::newRow("letter in place of a digit") << QByteArray("04645428a") << false;
     QTest::newRow("eight digits") << QByteArray("04645428") << false;
-    QTest::newRow("ten digits") << QByteArray("0464542860") << false;
     QTest::newRow("separators are not removed") << QByteArray("046 454 286") << false;
-    QTest::newRow("seven digits passing Luhn") << QByteArray("1250000") << false;
     QTest::newRow("null") << QByteArray() << false;
 }
 
@@ -119,18 +114,13 @@ void tst_IdChecks::exceptionLists_data()
     QTest::newRow("SIN listed in another case") << "sin" << QByteArray("NR") << nr << false << true;
     QTest::newRow("SIN listed although not nine digits")
         << "sin" << QByteArray("000") << QList<QByteArray> { "x", "000" } << false << true;
-    QTest::newRow("SIN not listed") << "sin" << QByteArray("NA") << nr << false << false;
     QTest::newRow("SIN with a null list") << "sin" << QByteArray("NR") << nr << true << false;
-    QTest::newRow("SIN with an empty list") << "sin" << QByteArray("NR") << QList<QByteArray> {} << false << false;
     QTest::newRow("valid SIN beside a list") << "sin" << QByteArray("046454286") << nr << false << true;
     QTest::newRow("trust listed") << "trust" << QByteArray("pending") << QList<QByteArray> { "PENDING" } << false
                                   << true;
-    QTest::newRow("trust not listed") << "trust" << QByteArray("pend") << QList<QByteArray> { "PENDING" } << false
-                                      << false;
     QTest::newRow("valid trust beside a list") << "trust" << QByteArray("T12345678") << nr << false << true;
     QTest::newRow("membership of null text") << "member" << QByteArray() << nr << false << false;
     QTest::newRow("membership ignores case") << "member" << QByteArray("Nr") << nr << false << true;
-    QTest::newRow("membership is whole text") << "member" << QByteArray("NRX") << nr << false << false;
 }
 
 void tst_IdChecks::exceptionLists()
@@ -157,21 +147,15 @@ void tst_IdChecks::accountNumbers_data()
     QTest::newRow("business number") << "bn" << QByteArray("123456782RC0001") << true;
     // 8 7*2=14->5 0 1*2=2 2 3*2=6 4 5*2=10->1: sum 28, check 2
     QTest::newRow("business number, another") << "bn" << QByteArray("870123452RC0002") << true;
-    QTest::newRow("business number, program in lower case") << "bn" << QByteArray("123456782rc0001") << true;
     QTest::newRow("business number, wrong check digit") << "bn" << QByteArray("123456789RC0001") << false;
     QTest::newRow("business number, nine zeros") << "bn" << QByteArray("000000000RC0001") << false;
     QTest::newRow("business number, other program") << "bn" << QByteArray("123456782RT0001") << false;
     QTest::newRow("business number, 14 characters") << "bn" << QByteArray("123456782RC001") << false;
-    QTest::newRow("business number, 16 characters") << "bn" << QByteArray("123456782RC00011") << false;
-    QTest::newRow("business number, letter in account") << "bn" << QByteArray("123456782RC000A") << false;
     QTest::newRow("business number, letter in body") << "bn" << QByteArray("12345678XRC0001") << false;
     QTest::newRow("business number, NR alone") << "bn" << QByteArray("NR") << false;
     QTest::newRow("business number or NR, NR") << "bn2" << QByteArray("NR") << true;
-    QTest::newRow("business number or NR, nr") << "bn2" << QByteArray("nr") << true;
     QTest::newRow("business number or NR, number") << "bn2" << QByteArray("123456782RC0001") << true;
-    QTest::newRow("business number or NR, N") << "bn2" << QByteArray("N") << false;
     QTest::newRow("GST account without check digit") << "gst" << QByteArray("123456789RT0001") << true;
-    QTest::newRow("GST account, lower case program") << "gst" << QByteArray("123456789rt0001") << true;
     QTest::newRow("GST account, business program") << "gst" << QByteArray("123456789RC0001") << false;
     QTest::newRow("GST account, nine zeros") << "gst" << QByteArray("000000000RT0001") << false;
     QTest::newRow("GST account, accented letter adds a byte") << "gst" << QByteArray("12345678\xC3\xA9RT001") << false;
@@ -180,7 +164,6 @@ void tst_IdChecks::accountNumbers_data()
     QTest::newRow("partnership, wrong check digit") << "partnership" << QByteArray("123456789RZ0001") << false;
     QTest::newRow("partnership, business program") << "partnership" << QByteArray("123456782RC0001") << false;
     QTest::newRow("own program with check digit") << "rp" << QByteArray("123456782RP0001") << true;
-    QTest::newRow("own program, bad check digit") << "rp" << QByteArray("123456780RP0001") << false;
     QTest::newRow("own program unchecked") << "rp-unchecked" << QByteArray("123456780rp0001") << true;
     QTest::newRow("null number") << "bn" << QByteArray() << false;
 }
@@ -214,14 +197,10 @@ void tst_IdChecks::identifierShapes_data()
     QTest::addColumn<bool>("accepted");
     QTest::newRow("trust with T") << "trust"
                                   << "T12345678" << true;
-    QTest::newRow("trust with t") << "trust"
-                                  << "t12345678" << true;
     QTest::newRow("trust with A") << "trust"
                                   << "A12345678" << true;
     QTest::newRow("trust with a") << "trust"
                                   << "a12345678" << false;
-    QTest::newRow("trust too short") << "trust"
-                                     << "T1234567" << false;
     QTest::newRow("trust with a letter at the end") << "trust"
                                                     << "T1234567X" << false;
     QTest::newRow("tax shelter") << "shelter"
@@ -230,15 +209,9 @@ void tst_IdChecks::identifierShapes_data()
                                              << "tS123456" << true;
     QTest::newRow("tax shelter, five digits") << "shelter"
                                               << "TS12345" << false;
-    QTest::newRow("tax shelter, seven digits") << "shelter"
-                                               << "TS1234567" << false;
-    QTest::newRow("tax shelter, other prefix") << "shelter"
-                                               << "XS123456" << false;
     QTest::newRow("tax shelter, long s") << "shelter" << QString::fromUtf8("T\u017F123456") << false;
     QTest::newRow("file id") << "fileid"
                              << "123456789" << true;
-    QTest::newRow("file id, eight digits") << "fileid"
-                                           << "12345678" << false;
     QTest::newRow("file id, letter") << "fileid"
                                      << "12345678a" << false;
     QTest::newRow("file id, Arabic-Indic digits")
@@ -247,20 +220,14 @@ void tst_IdChecks::identifierShapes_data()
                                           << "1.2.3.4" << true;
     QTest::newRow("SR&ED code of digits") << "sred"
                                           << "1234567" << true;
-    QTest::newRow("SR&ED code of dots only") << "sred"
-                                             << "......." << true;
     QTest::newRow("SR&ED code too short") << "sred"
                                           << "12.34" << false;
-    QTest::newRow("SR&ED code with a hyphen") << "sred"
-                                              << "1-2.3.4" << false;
     QTest::newRow("date") << "date"
                           << "20240131" << true;
     QTest::newRow("date, only eight characters read") << "date"
                                                       << "2024130199" << true;
     QTest::newRow("date, seven digits") << "date"
                                         << "2024013" << false;
-    QTest::newRow("date with hyphens") << "date"
-                                       << "2024-01-31" << false;
     QTest::newRow("all numbers, empty") << "number"
                                         << "" << true;
     QTest::newRow("all numbers") << "number"
@@ -307,7 +274,6 @@ void tst_IdChecks::nisaPin_data()
     // the PIN's own parity (2*2=4 2 3*2=6 4 5*2=10->1 6 7*2=14->5: sum 28) needs 2
     QTest::newRow("CheckMod10 parity does not apply") << QByteArray("22345678") << false;
     QTest::newRow("seven characters") << QByteArray("1234567") << false;
-    QTest::newRow("nine characters") << QByteArray("123456740") << false;
     // "A" - "0" = 17 stands where 2 stood: sum 26 - 2 + 17 = 41, check 9
     QTest::newRow("a letter counts by its code") << QByteArray("1A345679") << true;
     QTest::newRow("null") << QByteArray() << false;
