@@ -13,6 +13,7 @@ int addressCommand(Context &ctx);
 
 // Checks and catalogues
 int checkCommand(Context &ctx);
+int formsCommand(Context &ctx);
 
 
 // Form files and outputs

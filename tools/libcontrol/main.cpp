@@ -25,6 +25,11 @@ Command const Commands[] = {
     {"check", "sin|bn|gst|trust|partnership|taxshelter|nisapin|postal|zip|phone|email VALUE...",
      "check identifiers, postal codes, phone numbers or e-mail addresses; exit 1 when any is refused",
      Tool::checkCommand},
+    {"forms", "[--province CODE] [--mandatory KINDS]",
+     "the form catalogue with its marks; --province CODE (AB ... YT) applies that province's rules and hides the "
+     "other provinces' forms; --mandatory KINDS lists only the forms mandatory for KINDS, the bit mask of return "
+     "kinds (1, 2 or 3; the M mark uses 3 without it)",
+     Tool::formsCommand},
 
 
     // Form files and outputs
