@@ -16,6 +16,8 @@ int checkCommand(Context &ctx);
 
 
 // Form files and outputs
+int inspectCommand(Context &ctx);
+int diffCommand(Context &ctx);
 
 
 // Services
