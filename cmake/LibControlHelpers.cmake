@@ -99,6 +99,14 @@ function(libcontrol_add_test name)
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;TZ=UTC;LC_ALL=C.UTF-8")
 endfunction()
 
+# libcontrol_add_tool_test(<name> SOURCES <file>... [TIMEOUT <s>]): a test
+# that runs the built libcontrol tool, whose path it gets as LIBCONTROL_TOOL.
+function(libcontrol_add_tool_test name)
+    libcontrol_add_test(${name} ${ARGN})
+    target_compile_definitions(${name} PRIVATE LIBCONTROL_TOOL="$<TARGET_FILE:libcontrol>")
+    add_dependencies(${name} libcontrol)
+endfunction()
+
 # libcontrol_add_fuzzer(<name> <source>): the target replays the committed
 # corpus fuzz/corpus/<name>/ as an ordinary test; with LIBCONTROL_BUILD_FUZZ
 # (clang) it is also built as a libFuzzer executable.
