@@ -17,6 +17,7 @@ class LIBCONTROL_EXPORT CYesNoContinueDlg : public BaseDialog
 {
     Q_OBJECT
 public:
+    /** The finished dialog, titled `title` unless it is empty. */
     explicit CYesNoContinueDlg(const QString &title, QWidget *parent = nullptr);
     ~CYesNoContinueDlg() override;
 

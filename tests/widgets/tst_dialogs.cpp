@@ -13,6 +13,8 @@
 #include <QPushButton>
 #include <QTest>
 
+#include <memory>
+
 namespace {
 
 const QString confirmText = QStringLiteral("Please confirm the message by clicking the 'OK' button to proceed; or "
@@ -60,11 +62,10 @@ class tst_Dialogs : public QObject
 private Q_SLOTS:
     void generalInputLines_data();
     void generalInputLines();
-    void generalInputLink();
-    void runAndGetInputAccepted();
-    void runAndGetInputCancelled();
-    void msgWithLink();
-    void yesNoContinueDefaults();
+    void linkMarkup_data();
+    void linkMarkup();
+    void runAndGetInput_data();
+    void runAndGetInput();
     void yesNoContinueLines();
     void warnYesNoMsg_data();
     void warnYesNoMsg();
@@ -102,96 +103,97 @@ void tst_Dialogs::generalInputLines()
     QCOMPARE(dlg.windowTitle(), QStringLiteral("Input"));
 }
 
-void tst_Dialogs::generalInputLink()
+void tst_Dialogs::linkMarkup_data()
 {
-    dlgGeneralInput dlg(QStringLiteral("Input"));
-    dlg.setMsgLink(QStringLiteral("https://example.org/a?b=1"));
-    auto link = dlg.findChild<QLabel *>(QStringLiteral("lblLink"));
-    QVERIFY(isLinkLabel(link));
-    QCOMPARE(link->text(),
-             QStringLiteral("<a href=\"https://example.org/a?b=1\">https://example.org/a?b=1</a>"));
+    QTest::addColumn<QString>("operation");
+    QTest::addColumn<QString>("label");
+    QTest::addColumn<QString>("markup");
+    const QString url = QStringLiteral("https://example.org/a?b=1");
+    const QString self = QStringLiteral("<a href=\"%1\">%1</a>").arg(url);
+    QTest::newRow("input dialog link") << "setMsgLink" << "lblLink" << self;
+    QTest::newRow("message dialog link") << "setLink" << "lblLink" << self;
+    QTest::newRow("confirmation line as link") << "setMsg" << "lblMsg3" << self;
+    QTest::newRow("confirmation line with own text")
+        << "setLinkMsg" << "lblMsg4" << QStringLiteral("<a href=\"%1\">the guide</a>").arg(url);
 }
 
-void tst_Dialogs::runAndGetInputAccepted()
+void tst_Dialogs::linkMarkup()
 {
+    QFETCH(QString, operation);
+    QFETCH(QString, label);
+    QFETCH(QString, markup);
+    const QString url = QStringLiteral("https://example.org/a?b=1");
+    std::unique_ptr<QDialog> dlg;
+    if (operation == QLatin1String("setMsgLink")) {
+        auto input = new dlgGeneralInput(QStringLiteral("Input"));
+        input->setMsgLink(url);
+        dlg.reset(input);
+    } else if (operation == QLatin1String("setLink")) {
+        auto message = new DlgMsgWithLink(QStringLiteral("Update"));
+        message->setLink(url);
+        dlg.reset(message);
+    } else {
+        auto confirm = new CYesNoContinueDlg(QStringLiteral("Confirm"));
+        if (operation == QLatin1String("setMsg"))
+            QVERIFY(confirm->setMsg(3, url, true));
+        else
+            confirm->setLinkMsg(4, QStringLiteral("the guide"), url);
+        dlg.reset(confirm);
+    }
+    auto link = dlg->findChild<QLabel *>(label);
+    QVERIFY(isLinkLabel(link));
+    QCOMPARE(link->text(), markup);
+    QVERIFY(link->isVisibleTo(dlg.get()));
+}
+
+void tst_Dialogs::runAndGetInput_data()
+{
+    QTest::addColumn<int>("button");
+    QTest::addColumn<bool>("accepted");
+    QTest::addColumn<QString>("out");
+    QTest::addColumn<QString>("kept");
+    QTest::newRow("accepted") << int(QDialogButtonBox::Ok) << true << "A1B 2C3" << "A1B 2C3";
+    QTest::newRow("cancelled leaves the caller's text") << int(QDialogButtonBox::Cancel) << false << "unchanged" << "";
+}
+
+void tst_Dialogs::runAndGetInput()
+{
+    QFETCH(int, button);
+    QFETCH(bool, accepted);
+    QFETCH(QString, out);
+    QFETCH(QString, kept);
     dlgGeneralInput dlg(QStringLiteral("Input"));
-    whenModal([](QWidget *modal) {
+    whenModal([button](QWidget *modal) {
         QTest::keyClicks(modal->findChild<QLineEdit *>(), QStringLiteral("A1B 2C3"));
-        modal->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok)->click();
+        modal->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::StandardButton(button))->click();
     });
-    QString out = QStringLiteral("old");
-    QVERIFY(dlg.runAndGetInput(out));
-    QCOMPARE(out, QStringLiteral("A1B 2C3"));
-    QString again;
-    dlg.getInput(again);
-    QCOMPARE(again, out);
-}
-
-void tst_Dialogs::runAndGetInputCancelled()
-{
-    dlgGeneralInput dlg(QStringLiteral("Input"));
-    whenModal([](QWidget *modal) {
-        QTest::keyClicks(modal->findChild<QLineEdit *>(), QStringLiteral("typed"));
-        modal->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Cancel)->click();
-    });
-    QString out = QStringLiteral("unchanged");
-    QVERIFY(!dlg.runAndGetInput(out));
-    QCOMPARE(out, QStringLiteral("unchanged"));
-    dlg.getInput(out);
-    QCOMPARE(out, QString());
-}
-
-void tst_Dialogs::msgWithLink()
-{
-    DlgMsgWithLink dlg(QStringLiteral("Update"));
-    dlg.setMsg1(QStringLiteral("A newer version is available."));
-    dlg.setMsg2(QStringLiteral("Download it from:"));
-    dlg.setLink(QStringLiteral("https://example.org"));
-    QCOMPARE(dlg.windowTitle(), QStringLiteral("Update"));
-    QCOMPARE(labelText(&dlg, "lblMsg1"), QStringLiteral("A newer version is available."));
-    QCOMPARE(labelText(&dlg, "lblMsg2"), QStringLiteral("Download it from:"));
-    auto link = dlg.findChild<QLabel *>(QStringLiteral("lblLink"));
-    QVERIFY(isLinkLabel(link));
-    QCOMPARE(link->text(), QStringLiteral("<a href=\"https://example.org\">https://example.org</a>"));
-}
-
-void tst_Dialogs::yesNoContinueDefaults()
-{
-    CYesNoContinueDlg dlg(QStringLiteral("Confirm"));
-    QCOMPARE(dlg.windowTitle(), QStringLiteral("Confirm"));
-    QCOMPARE(messageLines(&dlg), (QStringList{confirmText, "", "", ""}));
-    // The platform adjustment has run over the finished form.
-    auto ok = dlg.findChild<QPushButton *>(QStringLiteral("btnOk"));
-    QCOMPARE(ok->maximumHeight(), 32);
-    QCOMPARE(dlg.findChild<QLabel *>(QStringLiteral("lblMsg2"))->font().pointSize(), 14);
-
-    CYesNoContinueDlg untitled{QString()};
-    QCOMPARE(untitled.windowTitle(), QString());
+    QString text = QStringLiteral("unchanged");
+    QCOMPARE(dlg.runAndGetInput(text), accepted);
+    QCOMPARE(text, out);
+    dlg.getInput(text);
+    QCOMPARE(text, kept);
 }
 
 void tst_Dialogs::yesNoContinueLines()
 {
     CYesNoContinueDlg dlg(QStringLiteral("Confirm"));
+    QCOMPARE(dlg.windowTitle(), QStringLiteral("Confirm"));
+    QCOMPARE(messageLines(&dlg), (QStringList{confirmText, "", "", ""}));
+    // The platform adjustment has run over the finished form.
+    QCOMPARE(dlg.findChild<QPushButton *>(QStringLiteral("btnOk"))->maximumHeight(), 32);
+    QCOMPARE(dlg.findChild<QLabel *>(QStringLiteral("lblMsg2"))->font().pointSize(), 14);
+
+    // A line shown as a link and then plainly shows the markup as text.
     QVERIFY(dlg.setMsg(2, QStringLiteral("https://example.org"), true));
     QVERIFY(dlg.setMsg(2, QStringLiteral("<b>plain</b>"), false));
     auto second = dlg.findChild<QLabel *>(QStringLiteral("lblMsg2"));
     QCOMPARE(second->textFormat(), Qt::PlainText);
     QCOMPARE(second->text(), QStringLiteral("<b>plain</b>"));
 
-    QVERIFY(dlg.setMsg(3, QStringLiteral("https://example.org"), true));
-    auto third = dlg.findChild<QLabel *>(QStringLiteral("lblMsg3"));
-    QVERIFY(isLinkLabel(third));
-    QCOMPARE(third->text(), QStringLiteral("<a href=\"https://example.org\">https://example.org</a>"));
-
-    dlg.setLinkMsg(4, QStringLiteral("the guide"), QStringLiteral("https://example.org/guide"));
-    auto fourth = dlg.findChild<QLabel *>(QStringLiteral("lblMsg4"));
-    QVERIFY(isLinkLabel(fourth));
-    QCOMPARE(fourth->text(), QStringLiteral("<a href=\"https://example.org/guide\">the guide</a>"));
-
     QVERIFY(!dlg.setMsg(0, QStringLiteral("x"), false));
     QVERIFY(!dlg.setMsg(5, QStringLiteral("x"), false));
     dlg.setLinkMsg(5, QStringLiteral("x"), QStringLiteral("y"));
-    QCOMPARE(labelText(&dlg, "lblMsg1"), confirmText);
+    QCOMPARE(messageLines(&dlg), (QStringList{confirmText, "<b>plain</b>", "", ""}));
 }
 
 void tst_Dialogs::warnYesNoMsg_data()
