@@ -1,7 +1,10 @@
 #include <LibControl/widgets/adjustappearance.h>
 #include <LibControl/widgets/basedialog.h>
 
-BaseDialog::BaseDialog(const QString &title, QWidget *parent) : QDialog(parent), m_title(title) { }
+BaseDialog::BaseDialog(const QString &title, QWidget *parent)
+    : QDialog(parent)
+    , m_title(title)
+{ }
 
 BaseDialog::~BaseDialog() = default;
 

@@ -15,7 +15,7 @@ class LIBCONTROL_EXPORT BaseDialog : public QDialog
     Q_OBJECT
 public:
     /** Keeps `title` for afterCreateUI(); the window title is not set yet. */
-    BaseDialog(const QString &title, QWidget *parent = nullptr);
+    explicit BaseDialog(const QString &title, QWidget *parent = nullptr);
     ~BaseDialog() override;
 
     /** The title given at construction. */

@@ -8,7 +8,8 @@ const QString s_ForwardEdit_stylesheet = QStringLiteral(
 
 } // namespace
 
-CForwardEdit::CForwardEdit(QWidget *parent) : DoubleLineEdit(parent)
+CForwardEdit::CForwardEdit(QWidget *parent)
+    : DoubleLineEdit(parent)
 {
     setStyleSheet(s_ForwardEdit_stylesheet.arg(QStringLiteral("#DEAC37")));
 }

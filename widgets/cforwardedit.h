@@ -11,6 +11,7 @@ class LIBCONTROL_EXPORT CForwardEdit : public DoubleLineEdit
 {
     Q_OBJECT
 public:
+    /** A DoubleLineEdit restyled with the teal forward look. */
     explicit CForwardEdit(QWidget *parent = nullptr);
     ~CForwardEdit() override;
 };

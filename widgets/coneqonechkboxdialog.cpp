@@ -6,9 +6,12 @@
 #include <QLabel>
 #include <QPushButton>
 
-COneQOneChkboxDialog::COneQOneChkboxDialog(const QString &title, const QString &question, const QString &checkText,
-                                           QMessageBox::Icon icon, QWidget *parent)
-    : QDialog(parent), m_icon(icon), m_question(question), m_checkText(checkText)
+COneQOneChkboxDialog::COneQOneChkboxDialog(
+    const QString &title, const QString &question, const QString &checkText, QMessageBox::Icon icon, QWidget *parent)
+    : QDialog(parent)
+    , m_icon(icon)
+    , m_question(question)
+    , m_checkText(checkText)
 {
     buildUi(title);
 }
@@ -53,7 +56,7 @@ bool COneQOneChkboxDialog::isCheckboxChecked() const
 }
 
 int COneQOneChkboxDialog::showDialog(const QString &title, const QString &question, const QString &checkText,
-                                     bool *checked, QMessageBox::Icon icon, QWidget *parent)
+    bool *checked, QMessageBox::Icon icon, QWidget *parent)
 {
     COneQOneChkboxDialog dlg(title, question, checkText, icon, parent);
     const int result = dlg.exec();

@@ -18,7 +18,7 @@ class LIBCONTROL_EXPORT COneQOneChkboxDialog : public QDialog
 public:
     /** `icon` is drawn with the standard message box pixmap of that kind. */
     COneQOneChkboxDialog(const QString &title, const QString &question, const QString &checkText,
-                         QMessageBox::Icon icon = QMessageBox::Question, QWidget *parent = nullptr);
+        QMessageBox::Icon icon = QMessageBox::Question, QWidget *parent = nullptr);
     ~COneQOneChkboxDialog() override;
 
     /** Whether the check box is checked. */
@@ -30,7 +30,7 @@ public:
      * unless it is null, whichever button closed the dialog.
      */
     static int showDialog(const QString &title, const QString &question, const QString &checkText, bool *checked,
-                          QMessageBox::Icon icon = QMessageBox::Question, QWidget *parent = nullptr);
+        QMessageBox::Icon icon = QMessageBox::Question, QWidget *parent = nullptr);
 
 private:
     void buildUi(const QString &title);

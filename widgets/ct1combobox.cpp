@@ -1,24 +1,25 @@
 #include <LibControl/common/utilities.h>
 #include <LibControl/forms/taxformtype.h>
-#include <LibControl/worksheets/dependantinfo.h>
 #include <LibControl/widgets/ct1combobox.h>
+#include <LibControl/worksheets/dependantinfo.h>
 
 #include <iterator>
 
 namespace {
 
 // The runs of blanks are part of the text.
-const QString s_ct1ComboBox_stylesheet = QStringLiteral(
-    "QComboBox {color:black;border: 1px solid #32414B;                                     "
-    "border-radius:4px;padding: 1px 0px 1px 3px;}                          "
-    "QComboBox::focus { background-color:#DEAC37;}");
+const QString s_ct1ComboBox_stylesheet
+    = QStringLiteral("QComboBox {color:black;border: 1px solid #32414B;                                     "
+                     "border-radius:4px;padding: 1px 0px 1px 3px;}                          "
+                     "QComboBox::focus { background-color:#DEAC37;}");
 
 constexpr int lastCanadianProvince = 13;
 constexpr int firstNonResidentKind = 14;
 
 } // namespace
 
-CT1ComboBox::CT1ComboBox(QWidget *parent) : StyledComboBox(parent)
+CT1ComboBox::CT1ComboBox(QWidget *parent)
+    : StyledComboBox(parent)
 {
     setStyleSheet(s_ct1ComboBox_stylesheet);
 }
@@ -125,8 +126,8 @@ void CT1ComboBox::LoadTaxForms(unsigned char, std::list<unsigned int> &forms, co
 void CT1ComboBox::LoadSKGraduateRententionProgramType()
 {
     clear();
-    const QString programs[] = {tr("Select a program"), tr("a certificate program"), tr("a diploma program"),
-                                tr("3-year undergraduate"), tr("4-year undergraduate")};
+    const QString programs[] = { tr("Select a program"), tr("a certificate program"), tr("a diploma program"),
+        tr("3-year undergraduate"), tr("4-year undergraduate") };
     for (int row = 0; row < int(std::size(programs)); ++row)
         addItem(programs[row], row);
     setCurrentIndex(0);

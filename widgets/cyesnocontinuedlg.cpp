@@ -7,7 +7,7 @@ namespace {
 
 QLabel *messageLabel(const Ui::CYesNoContinueDlg &ui, int line)
 {
-    QLabel *const labels[] = {ui.lblMsg1, ui.lblMsg2, ui.lblMsg3, ui.lblMsg4};
+    QLabel *const labels[] = { ui.lblMsg1, ui.lblMsg2, ui.lblMsg3, ui.lblMsg4 };
     return line >= 1 && line <= 4 ? labels[line - 1] : nullptr;
 }
 
@@ -22,10 +22,11 @@ bool confirm(QWidget *parent, const QString &title, const QStringList &lines)
 } // namespace
 
 CYesNoContinueDlg::CYesNoContinueDlg(const QString &title, QWidget *parent)
-    : BaseDialog(title, parent), ui(new Ui::CYesNoContinueDlg)
+    : BaseDialog(title, parent)
+    , ui(new Ui::CYesNoContinueDlg)
 {
     ui->setupUi(this);
-    LibControl::detail::hideEmpty({ui->lblMsg1, ui->lblMsg2, ui->lblMsg3, ui->lblMsg4});
+    LibControl::detail::hideEmpty({ ui->lblMsg1, ui->lblMsg2, ui->lblMsg3, ui->lblMsg4 });
     afterCreateUI();
 }
 
@@ -51,17 +52,16 @@ void CYesNoContinueDlg::setLinkMsg(int line, const QString &text, const QString 
 
 bool CYesNoContinueDlg::warnYesNoMsg(QWidget *parent, const QString &title, const QString &msg)
 {
-    return confirm(parent, title, {QStringLiteral("%1:").arg(title), msg});
+    return confirm(parent, title, { QStringLiteral("%1:").arg(title), msg });
 }
 
-bool CYesNoContinueDlg::warnYesNoMsg(QWidget *parent, const QString &title, const QString &msg1,
-                                     const QString &msg2)
+bool CYesNoContinueDlg::warnYesNoMsg(QWidget *parent, const QString &title, const QString &msg1, const QString &msg2)
 {
-    return confirm(parent, title, {msg1, msg2});
+    return confirm(parent, title, { msg1, msg2 });
 }
 
-bool CYesNoContinueDlg::warnYesNoMsg(QWidget *parent, const QString &title, const QString &msg1,
-                                     const QString &msg2, const QString &msg3)
+bool CYesNoContinueDlg::warnYesNoMsg(
+    QWidget *parent, const QString &title, const QString &msg1, const QString &msg2, const QString &msg3)
 {
-    return confirm(parent, title, {msg1, msg2, msg3});
+    return confirm(parent, title, { msg1, msg2, msg3 });
 }

@@ -17,6 +17,7 @@ class LIBCONTROL_EXPORT CYesNoContinueDlg : public BaseDialog
 {
     Q_OBJECT
 public:
+    /** The finished dialog, titled `title` unless it is empty. */
     explicit CYesNoContinueDlg(const QString &title, QWidget *parent = nullptr);
     ~CYesNoContinueDlg() override;
 
@@ -37,8 +38,8 @@ public:
     /** Asks to confirm the two messages, on lines 1 and 2. True when OK is pressed. */
     static bool warnYesNoMsg(QWidget *parent, const QString &title, const QString &msg1, const QString &msg2);
     /** Asks to confirm the three messages, on lines 1 to 3. True when OK is pressed. */
-    static bool warnYesNoMsg(QWidget *parent, const QString &title, const QString &msg1, const QString &msg2,
-                             const QString &msg3);
+    static bool warnYesNoMsg(
+        QWidget *parent, const QString &title, const QString &msg1, const QString &msg2, const QString &msg3);
 
 private:
     std::unique_ptr<Ui::CYesNoContinueDlg> const ui;

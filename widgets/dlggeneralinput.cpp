@@ -4,18 +4,19 @@
 #include "ui_dlggeneralinput.h"
 
 dlgGeneralInput::dlgGeneralInput(const QString &title, QWidget *parent)
-    : QDialog(parent), ui(new Ui::dlgGeneralInput)
+    : QDialog(parent)
+    , ui(new Ui::dlgGeneralInput)
 {
     ui->setupUi(this);
     setWindowTitle(title);
-    LibControl::detail::hideEmpty({ui->lblMsg1, ui->lblMsg2, ui->lblMsg3, ui->lblMsg4, ui->lblLink});
+    LibControl::detail::hideEmpty({ ui->lblMsg1, ui->lblMsg2, ui->lblMsg3, ui->lblMsg4, ui->lblLink });
 }
 
 dlgGeneralInput::~dlgGeneralInput() = default;
 
 void dlgGeneralInput::setMsg(int line, const QString &text)
 {
-    QLabel *const labels[] = {ui->lblMsg1, ui->lblMsg2, ui->lblMsg3, ui->lblMsg4};
+    QLabel *const labels[] = { ui->lblMsg1, ui->lblMsg2, ui->lblMsg3, ui->lblMsg4 };
     if (line >= 0 && line < 4)
         LibControl::detail::showText(labels[line], text);
 }

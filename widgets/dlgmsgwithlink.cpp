@@ -3,11 +3,13 @@
 #include "messagelabel_p.h"
 #include "ui_dlgmsgwithlink.h"
 
-DlgMsgWithLink::DlgMsgWithLink(const QString &title, QWidget *parent) : QDialog(parent), ui(new Ui::DlgMsgWithLink)
+DlgMsgWithLink::DlgMsgWithLink(const QString &title, QWidget *parent)
+    : QDialog(parent)
+    , ui(new Ui::DlgMsgWithLink)
 {
     ui->setupUi(this);
     setWindowTitle(title);
-    LibControl::detail::hideEmpty({ui->lblMsg1, ui->lblMsg2, ui->lblLink});
+    LibControl::detail::hideEmpty({ ui->lblMsg1, ui->lblMsg2, ui->lblLink });
 }
 
 DlgMsgWithLink::~DlgMsgWithLink() = default;

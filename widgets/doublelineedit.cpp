@@ -22,7 +22,9 @@ qint64 truncatedToInt64(double v)
 
 int DoubleLineEdit::s_defDecimals = 2;
 
-DoubleLineEdit::DoubleLineEdit(QWidget *parent) : StringLineEdit(parent), m_decimals(s_defDecimals)
+DoubleLineEdit::DoubleLineEdit(QWidget *parent)
+    : StringLineEdit(parent)
+    , m_decimals(s_defDecimals)
 {
     setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     setMinimumWidth(90);

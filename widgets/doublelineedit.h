@@ -24,6 +24,7 @@ public:
 
     /** Digits shown after the point; below 1 shows whole numbers. */
     int getDecimals() const { return m_decimals; }
+    /** Sets the digits shown by later setDouble calls; the current text is kept. */
     void setDecimals(int decimals) { m_decimals = decimals; }
 
     /**
@@ -40,7 +41,9 @@ public:
      */
     double getDouble() const;
 
+    /** As StringLineEdit::setAttID. */
     void setAttID(int id) override;
+    /** As StringLineEdit::event: QLineEdit's own handler is skipped. */
     bool event(QEvent *e) override;
 
 protected:

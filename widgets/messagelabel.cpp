@@ -8,8 +8,8 @@ namespace detail {
 void showLink(QLabel *label, const QString &href, const QString &text)
 {
     label->setTextFormat(Qt::RichText);
-    label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::LinksAccessibleByMouse
-                                   | Qt::LinksAccessibleByKeyboard);
+    label->setTextInteractionFlags(
+        Qt::TextSelectableByMouse | Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
     label->setOpenExternalLinks(true);
     label->setText(QStringLiteral("<a href=\"%1\">%2</a>").arg(href, text));
     label->setVisible(true);

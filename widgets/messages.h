@@ -12,14 +12,14 @@
 LIBCONTROL_EXPORT void gMsgGetTitle(unsigned char channel, QString &title);
 
 /** An information box with OK under the channel's title; returns the button pressed. */
-LIBCONTROL_EXPORT QMessageBox::StandardButton gMsgInformation(unsigned char channel, const QString &text,
-                                                              QWidget *parent = nullptr);
+LIBCONTROL_EXPORT QMessageBox::StandardButton gMsgInformation(
+    unsigned char channel, const QString &text, QWidget *parent = nullptr);
 
 /**
  * A question box with Yes and No and no default button, under the channel's
  * title; returns the button pressed (Escape gives No).
  */
-LIBCONTROL_EXPORT QMessageBox::StandardButton gMsgQuestion(unsigned char channel, const QString &text,
-                                                           QWidget *parent = nullptr);
+LIBCONTROL_EXPORT QMessageBox::StandardButton gMsgQuestion(
+    unsigned char channel, const QString &text, QWidget *parent = nullptr);
 
 #endif

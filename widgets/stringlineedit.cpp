@@ -1,5 +1,5 @@
-#include <LibControl/widgets/stringlineedit.h>
 #include <LibControl/widgets/myevent.h>
+#include <LibControl/widgets/stringlineedit.h>
 
 #include <QCoreApplication>
 #include <QKeyEvent>
@@ -7,10 +7,10 @@
 
 namespace {
 
-const QString s_lineEdit_stylesheet = QStringLiteral(
-    "QLineEdit{ border-width: 1px; border-style: solid; border-color: white white black white; } "
-    "QLineEdit:hover { border: 1px solid #808080; background-color:%1; border-radius: 2px; } "
-    "QLineEdit:disabled {background:#C0C0C0;color:black;} QLineEdit:read-only {color:#324aa8;}");
+const QString s_lineEdit_stylesheet
+    = QStringLiteral("QLineEdit{ border-width: 1px; border-style: solid; border-color: white white black white; } "
+                     "QLineEdit:hover { border: 1px solid #808080; background-color:%1; border-radius: 2px; } "
+                     "QLineEdit:disabled {background:#C0C0C0;color:black;} QLineEdit:read-only {color:#324aa8;}");
 
 const QString s_editableHover = QStringLiteral("#DEAC37");
 const QString s_forwardHover = QStringLiteral("#3EAC37");
@@ -22,7 +22,8 @@ bool isZeroText(const QString &text)
 
 } // namespace
 
-StringLineEdit::StringLineEdit(QWidget *parent) : QLineEdit(parent)
+StringLineEdit::StringLineEdit(QWidget *parent)
+    : QLineEdit(parent)
 {
     setStyleSheet(s_lineEdit_stylesheet.arg(s_editableHover));
     // Left and right together is what the pages have always been laid out with.

@@ -13,6 +13,7 @@ class LIBCONTROL_EXPORT StyledCheckBox : public QCheckBox
 {
     Q_OBJECT
 public:
+    /** An unchecked box without text, heavy indicator border. */
     explicit StyledCheckBox(QWidget *parent = nullptr);
     ~StyledCheckBox() override;
 

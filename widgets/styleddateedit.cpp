@@ -14,7 +14,8 @@ const QString s_dateEdit_stylesheet = QStringLiteral(
 
 } // namespace
 
-StyledDateEdit::StyledDateEdit(QWidget *parent) : QDateEdit(parent)
+StyledDateEdit::StyledDateEdit(QWidget *parent)
+    : QDateEdit(parent)
 {
     setLocale(QLocale(QLocale::English, QLocale::AnyCountry));
     setStyleSheet(s_dateEdit_stylesheet);
@@ -64,7 +65,8 @@ void StyledDateEdit::wheelEvent(QWheelEvent *event)
     event->ignore();
 }
 
-StyledDateTimeEdit::StyledDateTimeEdit(QWidget *parent) : QDateTimeEdit(parent)
+StyledDateTimeEdit::StyledDateTimeEdit(QWidget *parent)
+    : QDateTimeEdit(parent)
 {
     setAlignment(Qt::AlignRight | Qt::AlignVCenter);
 }

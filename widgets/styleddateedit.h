@@ -49,6 +49,7 @@ class LIBCONTROL_EXPORT StyledDateTimeEdit : public QDateTimeEdit
     Q_OBJECT
     Q_PROPERTY(QDate date READ nullDate)
 public:
+    /** A right-aligned (0x82) date-time edit with Qt's own look and locale. */
     explicit StyledDateTimeEdit(QWidget *parent = nullptr);
     ~StyledDateTimeEdit() override;
 

@@ -10,6 +10,7 @@ class LIBCONTROL_EXPORT UnderlineLabel : public QLabel
 {
     Q_OBJECT
 public:
+    /** An empty label with the dotted bottom rule. */
     explicit UnderlineLabel(QWidget *parent = nullptr);
     ~UnderlineLabel() override;
 };
