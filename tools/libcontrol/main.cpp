@@ -32,6 +32,12 @@ Command const Commands[] = {
      Tool::formsCommand},
 
 
+    // Worksheets and calculators
+    {"postcode", "CODE...", "the province of each postal code (from its first three characters)",
+     Tool::postcodeCommand},
+    {"tax", "--bracket THRESHOLD:RATE:BASE ... INCOME", "tax on an income over a bracket schedule",
+     Tool::taxCommand},
+
     // Form files and outputs
 
 
