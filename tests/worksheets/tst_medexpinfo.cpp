@@ -5,6 +5,8 @@
 #include <QBuffer>
 #include <QtTest>
 
+#include <cstring>
+
 namespace {
 
 constexpr int CurrentVersion = 0x10185;
