@@ -16,6 +16,10 @@ int checkCommand(Context &ctx);
 int formsCommand(Context &ctx);
 
 
+// Worksheets and calculators
+int postcodeCommand(Context &ctx);
+int taxCommand(Context &ctx);
+
 // Form files and outputs
 int inspectCommand(Context &ctx);
 int diffCommand(Context &ctx);

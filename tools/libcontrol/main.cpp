@@ -32,6 +32,12 @@ Command const Commands[] = {
      Tool::formsCommand},
 
 
+    // Worksheets and calculators
+    {"postcode", "CODE...", "the province of each postal code (from its first three characters)",
+     Tool::postcodeCommand},
+    {"tax", "--bracket THRESHOLD:RATE:BASE ... INCOME", "tax on an income over a bracket schedule",
+     Tool::taxCommand},
+
     // Form files and outputs
     {"inspect", "FILE --key KEY [--xml]", "list the form blocks of a return file with their fields", Tool::inspectCommand},
     {"diff", "OLD NEW --key KEY", "the fields that differ between the form blocks of two files", Tool::diffCommand},
