@@ -9,7 +9,7 @@ cmake -S . -B build/run -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DBUILD_TESTI
 cmake --build build/run -j "$(nproc)"
 
 tool=build/run/tools/libcontrol/libcontrol
-show() { echo "\$ libcontrol $*"; "$tool" "$@"; echo; }
+show() { echo "\$ libcontrol $*"; "$tool" "$@" || echo "(exit code $?)"; echo; }
 
 show --help
 show round 1.005 2
@@ -19,3 +19,9 @@ show amount 12 0
 show percent netfile 12.5 -3
 show percent at1 12.5 4
 show address CA ON Toronto "100 Queen Street West" "Suite 2500" "M5H 2N2"
+show check sin 046454286 123456789
+show postcode "K1A 0B1" X0A T2P
+show tax --bracket 0:0.145:0 --bracket 57375:0.205:8319.38 80000
+
+echo "\$ sample-return build/run/sample-return-output"
+build/run/examples/sample-return/sample-return build/run/sample-return-output
