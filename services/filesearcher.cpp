@@ -4,12 +4,11 @@
 
 FileSearcher::FileSearcher(QObject *parent)
     : QObject(parent)
-{
-}
+{ }
 
 void FileSearcher::search(const QString &path)
 {
-    QDirIterator it(path, {QStringLiteral("*.r21")}, QDir::Files | QDir::NoSymLinks, QDirIterator::Subdirectories);
+    QDirIterator it(path, { QStringLiteral("*.r21") }, QDir::Files | QDir::NoSymLinks, QDirIterator::Subdirectories);
     int count = 0;
     while (it.hasNext()) {
         it.next();

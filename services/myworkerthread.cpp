@@ -4,8 +4,7 @@
 
 MyWorkerThread::MyWorkerThread(QObject *parent)
     : QThread(parent)
-{
-}
+{ }
 
 MyWorkerThread::~MyWorkerThread()
 {

@@ -20,6 +20,8 @@
  * connections.
  *
  * Destroying a running thread cancels it and waits for the current step.
+ * A subclass whose doJob() uses its own members should do the same
+ * (cancel(), then wait()) in its own destructor, before those members go.
  */
 class LIBCONTROL_EXPORT MyWorkerThread : public QThread
 {

@@ -30,16 +30,14 @@ QByteArray upToNul(const QByteArray &data)
 QWebClient::QWebClient(const char *url, bool multiPart)
     : m_url(url ? url : "")
     , m_isMultiPart(multiPart)
-{
-}
+{ }
 
 QWebClient::QWebClient(const char *url, const char *filePath, const char *fileName, const char *fieldName)
     : m_url(url ? url : "")
     , m_filePath(fromBytes(filePath))
     , m_fileName(fromBytes(fileName))
     , m_fieldName(fromBytes(fieldName))
-{
-}
+{ }
 
 QWebClient::~QWebClient() = default;
 
@@ -135,9 +133,7 @@ void QWebClient::replyFinished(QNetworkReply *reply)
     m_manager = nullptr;
 }
 
-void QWebClient::onError(QNetworkReply::NetworkError)
-{
-}
+void QWebClient::onError(QNetworkReply::NetworkError) { }
 
 void QWebClient::onSslError(const QList<QSslError> &)
 {
@@ -236,7 +232,7 @@ std::unique_ptr<QHttpMultiPart> QWebClient::newFormMultiPart() const
         return nullptr;
     QHttpPart part;
     part.setRawHeader("Content-Disposition",
-                      QStringLiteral("form-data; name=\"%1\"; filename=\"%2\"").arg(m_fieldName, m_fileName).toUtf8());
+        QStringLiteral("form-data; name=\"%1\"; filename=\"%2\"").arg(m_fieldName, m_fileName).toUtf8());
     part.setBodyDevice(file);
     body->append(part);
     return body;

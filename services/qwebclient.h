@@ -95,10 +95,10 @@ public:
      * first NUL.
      */
     bool postSoapXML(const QByteArray &body, const QString &contentType, const char *user, const char *password,
-                     std::string &result);
+        std::string &result);
     /** postSoapXML() with the body given as a std::string of bytes. */
     bool postSoapXML(const std::string &body, const QString &contentType, const char *user, const char *password,
-                     std::string &result);
+        std::string &result);
 
     /**
      * A SOAP call sent as multipart/related: the envelope (in the local 8-bit

@@ -74,14 +74,14 @@ bool QWebClient::postByMultiPart(QString &result, const char *name, const char *
     return true;
 }
 
-bool QWebClient::postSoapXML(const std::string &body, const QString &contentType, const char *user,
-                             const char *password, std::string &result)
+bool QWebClient::postSoapXML(
+    const std::string &body, const QString &contentType, const char *user, const char *password, std::string &result)
 {
     return postSoapXML(QByteArray(body.data(), int(body.size())), contentType, user, password, result);
 }
 
-bool QWebClient::postSoapXML(const QByteArray &body, const QString &contentType, const char *user,
-                             const char *password, std::string &result)
+bool QWebClient::postSoapXML(
+    const QByteArray &body, const QString &contentType, const char *user, const char *password, std::string &result)
 {
     QNetworkRequest request = newRequest(urlText());
     request.setHeader(QNetworkRequest::ContentTypeHeader, contentType);
@@ -96,8 +96,8 @@ bool QWebClient::callSoapT2(const CString &envelope, const std::string &attachme
 {
     QNetworkRequest request = newRequest(urlText());
     request.setHeader(QNetworkRequest::ContentTypeHeader,
-                      QByteArray("multipart/related; boundary=\"MULTI-PARTS-FORM-DATA-BOUNDARY\"; "
-                                 "type=\"text/xml\"; start=\"<soapPart>\""));
+        QByteArray("multipart/related; boundary=\"MULTI-PARTS-FORM-DATA-BOUNDARY\"; "
+                   "type=\"text/xml\"; start=\"<soapPart>\""));
     request.setRawHeader("SOAPAction", "testest");
     request.setAttribute(QNetworkRequest::CacheLoadControlAttribute, QNetworkRequest::AlwaysNetwork);
 
@@ -115,8 +115,8 @@ void requestAddAuthHeader(QNetworkRequest &request, const char *credentials, con
 {
     if (!isGiven(credentials) || !isGiven(scheme))
         return;
-    const QString value =
-        QStringLiteral("%1 %2").arg(QString::fromLocal8Bit(scheme), QString::fromLocal8Bit(credentials));
+    const QString value
+        = QStringLiteral("%1 %2").arg(QString::fromLocal8Bit(scheme), QString::fromLocal8Bit(credentials));
     request.setRawHeader("Authorization", value.toLocal8Bit());
 }
 
@@ -130,8 +130,7 @@ int Base64encode(char *encoded, const char *string, int len)
 {
     if (!encoded)
         return 0;
-    const QByteArray text =
-        string && len > 0 ? QByteArray::fromRawData(string, len).toBase64() : QByteArray();
+    const QByteArray text = string && len > 0 ? QByteArray::fromRawData(string, len).toBase64() : QByteArray();
     std::memcpy(encoded, text.constData(), size_t(text.size()));
     encoded[text.size()] = '\0';
     return text.size() + 1;

@@ -75,7 +75,7 @@ private:
         const int end = pending.indexOf("\r\n\r\n");
         if (end < 0)
             return;
-        Request request{pending.left(end), QByteArray()};
+        Request request { pending.left(end), QByteArray() };
         const int length = request.header("Content-Length").toInt();
         if (pending.size() < end + 4 + length)
             return;
@@ -88,8 +88,10 @@ private:
 
     void respond(QTcpSocket *socket)
     {
-        socket->write("HTTP/1.1 " + QByteArray::number(m_status) + " Canned\r\nContent-Type: text/plain\r\n"
-                      "Content-Length: " + QByteArray::number(m_body.size()) + "\r\nConnection: close\r\n\r\n");
+        socket->write("HTTP/1.1 " + QByteArray::number(m_status)
+            + " Canned\r\nContent-Type: text/plain\r\n"
+              "Content-Length: "
+            + QByteArray::number(m_body.size()) + "\r\nConnection: close\r\n\r\n");
         socket->write(m_body);
         socket->disconnectFromHost();
     }

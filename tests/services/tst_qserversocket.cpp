@@ -19,13 +19,13 @@ struct Latest
 
     void watch(QServerSocket &server)
     {
-        QObject::connect(&server, &QServerSocket::dataReceived, &context,
-                         [this](QTcpSocket *socket, const QByteArray &bytes) {
-            ++emissions;
-            if (!data.contains(socket))
-                sockets.append(socket);
-            data[socket] = bytes;
-        });
+        QObject::connect(
+            &server, &QServerSocket::dataReceived, &context, [this](QTcpSocket *socket, const QByteArray &bytes) {
+                ++emissions;
+                if (!data.contains(socket))
+                    sockets.append(socket);
+                data[socket] = bytes;
+            });
     }
     bool contains(const QByteArray &bytes) const { return data.values().contains(bytes); }
 };
@@ -221,8 +221,8 @@ void tst_QServerSocket::manyConnectionsAtOnce()
     for (auto &client : clients)
         client->disconnectFromHost();
     QTRY_VERIFY_WITH_TIMEOUT(std::all_of(latest.sockets.cbegin(), latest.sockets.cend(),
-                                         [](const QPointer<QTcpSocket> &socket) { return socket.isNull(); }),
-                             20000);
+                                 [](const QPointer<QTcpSocket> &socket) { return socket.isNull(); }),
+        20000);
 }
 
 QTEST_GUILESS_MAIN(tst_QServerSocket)

@@ -83,7 +83,7 @@ void tst_QWebClient::getSendsAcceptAndAuthorisation()
     client.addQueryItem("ignored", "by get");
     QString result;
     QVERIFY(client.get(result, credentials.isNull() ? nullptr : credentials.constData(),
-                       scheme.isNull() ? nullptr : scheme.constData()));
+        scheme.isNull() ? nullptr : scheme.constData()));
 
     QCOMPARE(result, QStringLiteral("canned reply"));
     QCOMPARE(server.requests.size(), 1);
@@ -127,10 +127,10 @@ void tst_QWebClient::plainPostIsUrlEncoded_data()
     QTest::addColumn<QByteArray>("body");
 
     QTest::newRow("no items: empty body") << QList<QByteArray>() << QByteArray();
-    QTest::newRow("two items") << QList<QByteArray>{"a", "1", "b", "two"} << QByteArray("a=1&b=two");
+    QTest::newRow("two items") << QList<QByteArray> { "a", "1", "b", "two" } << QByteArray("a=1&b=two");
     QTest::newRow("delimiters and spaces encoded")
-        << QList<QByteArray>{"q", "x&y=z", "s", "a b"} << QByteArray("q=x%26y%3Dz&s=a%20b");
-    QTest::newRow("non-ASCII as UTF-8") << QList<QByteArray>{"n", "\xc3\xa9"} << QByteArray("n=%C3%A9");
+        << QList<QByteArray> { "q", "x&y=z", "s", "a b" } << QByteArray("q=x%26y%3Dz&s=a%20b");
+    QTest::newRow("non-ASCII as UTF-8") << QList<QByteArray> { "n", "\xc3\xa9" } << QByteArray("n=%C3%A9");
 }
 
 void tst_QWebClient::plainPostIsUrlEncoded()
@@ -178,10 +178,10 @@ void tst_QWebClient::multipartPostCarriesItemsAndFile()
     QCOMPARE(request.header("Content-Type"), "multipart/form-data; boundary=\"" + FormBoundary + '"');
     QCOMPARE(request.header("Accept"), QByteArray("application/json"));
     QCOMPARE(request.header("Authorization"), QByteArray());
-    QCOMPARE(request.body, formPart("form-data; name=\"year\"", "2025")
-                 + formPart("form-data; name=\"who\"", "caf\xc3\xa9")
-                 + formPart("form-data; name=\"doc\"; filename=\"upload.r21\"", QByteArray("file\0bytes", 10))
-                 + "--" + FormBoundary + "--\r\n");
+    QCOMPARE(request.body,
+        formPart("form-data; name=\"year\"", "2025") + formPart("form-data; name=\"who\"", "caf\xc3\xa9")
+            + formPart("form-data; name=\"doc\"; filename=\"upload.r21\"", QByteArray("file\0bytes", 10)) + "--"
+            + FormBoundary + "--\r\n");
 }
 
 void tst_QWebClient::multipartPostCanBeRepeated()
@@ -219,7 +219,8 @@ void tst_QWebClient::postByMultiPartHasNoBlankLine()
     QCOMPARE(result, QStringLiteral("canned reply"));
     QCOMPARE(server.requests.size(), 1);
     const auto &request = server.requests.first();
-    const QByteArray body = "--AaB03x\r\nContent-Disposition: form-data; name=\"t1\";\r\n<x>caf\xc3\xa9</x>\r\n--AaB03x--\r\n";
+    const QByteArray body
+        = "--AaB03x\r\nContent-Disposition: form-data; name=\"t1\";\r\n<x>caf\xc3\xa9</x>\r\n--AaB03x--\r\n";
     QCOMPARE(request.requestLine(), QByteArray("POST /svc?fn=1&md=2 HTTP/1.1"));
     QCOMPARE(request.header("Content-Type"), QByteArray("multipart/form-data; boundary=AaB03x"));
     QCOMPARE(request.header("Content-Length"), QByteArray::number(body.size()));
@@ -233,12 +234,12 @@ void tst_QWebClient::postSoapXmlAuthorisation_data()
     QTest::addColumn<bool>("stdStringBody");
     QTest::addColumn<QByteArray>("authorization");
 
-    QTest::newRow("bearer in lower case") << QByteArray("authorization_bearer") << QByteArray("P") << false
-                                          << QByteArray("Bearer P");
-    QTest::newRow("bearer in mixed case") << QByteArray("Authorization_BEARER") << QByteArray("tok") << true
-                                          << QByteArray("Bearer tok");
-    QTest::newRow("basic user and password") << QByteArray("user") << QByteArray("pw") << false
-                                             << QByteArray("Basic dXNlcjpwdw==");
+    QTest::newRow("bearer in lower case")
+        << QByteArray("authorization_bearer") << QByteArray("P") << false << QByteArray("Bearer P");
+    QTest::newRow("bearer in mixed case")
+        << QByteArray("Authorization_BEARER") << QByteArray("tok") << true << QByteArray("Bearer tok");
+    QTest::newRow("basic user and password")
+        << QByteArray("user") << QByteArray("pw") << false << QByteArray("Basic dXNlcjpwdw==");
     QTest::newRow("basic without password") << QByteArray("u") << QByteArray() << true << QByteArray("Basic dTo=");
     QTest::newRow("no user") << QByteArray() << QByteArray("pw") << false << QByteArray();
 }
@@ -282,18 +283,20 @@ void tst_QWebClient::callSoapT2SendsRelatedParts()
     QCOMPARE(result, QStringLiteral("canned reply"));
     QCOMPARE(server.requests.size(), 1);
     const auto &request = server.requests.first();
-    QCOMPARE(request.header("Content-Type"), QByteArray("multipart/related; boundary=\"MULTI-PARTS-FORM-DATA-BOUNDARY\"; "
-                                                       "type=\"text/xml\"; start=\"<soapPart>\""));
+    QCOMPARE(request.header("Content-Type"),
+        QByteArray("multipart/related; boundary=\"MULTI-PARTS-FORM-DATA-BOUNDARY\"; "
+                   "type=\"text/xml\"; start=\"<soapPart>\""));
     QCOMPARE(request.header("SOAPAction"), QByteArray("testest"));
-    QCOMPARE(request.body, QByteArray("--MULTI-PARTS-FORM-DATA-BOUNDARY\r\n"
-                                      "Content-Type: text/xml; charset=iso-8859-1\r\n"
-                                      "Content-Transfer-Encoding: 8bit\r\n"
-                                      "Content-ID: <soapPart>\r\n\r\n"
-                                      "<Envelope/>\r\n"
-                                      "--MULTI-PARTS-FORM-DATA-BOUNDARY\r\n"
-                                      "Content-Type: text/plain; charset=iso-8859-1\r\n\r\n"
-                                      "T2 data\n\r\n"
-                                      "--MULTI-PARTS-FORM-DATA-BOUNDARY--\r\n"));
+    QCOMPARE(request.body,
+        QByteArray("--MULTI-PARTS-FORM-DATA-BOUNDARY\r\n"
+                   "Content-Type: text/xml; charset=iso-8859-1\r\n"
+                   "Content-Transfer-Encoding: 8bit\r\n"
+                   "Content-ID: <soapPart>\r\n\r\n"
+                   "<Envelope/>\r\n"
+                   "--MULTI-PARTS-FORM-DATA-BOUNDARY\r\n"
+                   "Content-Type: text/plain; charset=iso-8859-1\r\n\r\n"
+                   "T2 data\n\r\n"
+                   "--MULTI-PARTS-FORM-DATA-BOUNDARY--\r\n"));
 }
 
 void tst_QWebClient::postAndExpectFileDownloadStreamsBody()
@@ -423,7 +426,7 @@ void tst_QWebClient::authHeader()
 
     QNetworkRequest request;
     requestAddAuthHeader(request, credentials.isNull() ? nullptr : credentials.constData(),
-                         scheme.isNull() ? nullptr : scheme.constData());
+        scheme.isNull() ? nullptr : scheme.constData());
     QCOMPARE(request.rawHeader("Authorization"), header);
     QCOMPARE(request.hasRawHeader("Authorization"), !header.isNull());
 }
@@ -438,8 +441,7 @@ void tst_QWebClient::base64_data()
     QTest::newRow("two bytes, one pad") << QByteArray("fo") << QByteArray("Zm8=");
     QTest::newRow("three bytes, no pad") << QByteArray("foo") << QByteArray("Zm9v");
     QTest::newRow("user and password") << QByteArray("user:pw") << QByteArray("dXNlcjpwdw==");
-    QTest::newRow("binary, last letters of the alphabet") << QByteArray("\xfb\xff\xbf\0", 4)
-                                                          << QByteArray("+/+/AA==");
+    QTest::newRow("binary, last letters of the alphabet") << QByteArray("\xfb\xff\xbf\0", 4) << QByteArray("+/+/AA==");
 }
 
 void tst_QWebClient::base64()

@@ -75,7 +75,7 @@ void tst_WorkerThread::fullRunReportsZeroToEighty()
     worker.start();
     QTRY_COMPARE_WITH_TIMEOUT(recorder.finished, 1, 10000);
     QVERIFY(worker.wait(10000));
-    QCOMPARE(recorder.progress, QList<int>({0, 20, 40, 60, 80}));
+    QCOMPARE(recorder.progress, QList<int>({ 0, 20, 40, 60, 80 }));
     QCOMPARE(worker.jobs.loadAcquire(), 5);
 }
 
@@ -100,7 +100,7 @@ void tst_WorkerThread::cancelTakesEffectBeforeNextStep()
     QTRY_COMPARE_WITH_TIMEOUT(recorder.finished, 1, 10000);
     QVERIFY(worker.wait(10000));
     // The step that saw the cancel still completes and reports.
-    QCOMPARE(recorder.progress, QList<int>({0, 20}));
+    QCOMPARE(recorder.progress, QList<int>({ 0, 20 }));
     QCOMPARE(worker.jobs.loadAcquire(), 2);
 }
 
@@ -118,7 +118,7 @@ void tst_WorkerThread::cancelFromAnotherThread()
     mayContinue.release();
     QTRY_COMPARE_WITH_TIMEOUT(recorder.finished, 1, 10000);
     QVERIFY(worker.wait(10000));
-    QCOMPARE(recorder.progress, QList<int>({0}));
+    QCOMPARE(recorder.progress, QList<int>({ 0 }));
     QCOMPARE(worker.jobs.loadAcquire(), 1);
 }
 
@@ -129,7 +129,7 @@ void tst_WorkerThread::checkStrInStrList_data()
     QTest::addColumn<bool>("caseSensitive");
     QTest::addColumn<bool>("found");
 
-    const QStringList provinces{QStringLiteral("ON"), QStringLiteral("QC")};
+    const QStringList provinces { QStringLiteral("ON"), QStringLiteral("QC") };
     QTest::newRow("exact match") << QStringLiteral("QC") << provinces << true << true;
     QTest::newRow("case differs, sensitive") << QStringLiteral("qc") << provinces << true << false;
     QTest::newRow("case differs, insensitive") << QStringLiteral("qc") << provinces << false << true;
@@ -154,8 +154,9 @@ void tst_WorkerThread::fileSearchCountsR21Files()
     QDir root(dir.path());
     QVERIFY(root.mkpath(QStringLiteral("2024/clients")));
     for (int i = 0; i < 250; ++i) {
-        const QString folder = i % 3 == 0 ? QStringLiteral(".") : i % 3 == 1 ? QStringLiteral("2024")
-                                                                              : QStringLiteral("2024/clients");
+        const QString folder = i % 3 == 0 ? QStringLiteral(".")
+            : i % 3 == 1                  ? QStringLiteral("2024")
+                                          : QStringLiteral("2024/clients");
         touch(root.filePath(QStringLiteral("%1/return%2.r21").arg(folder).arg(i)));
     }
     touch(root.filePath(QStringLiteral("notes.txt")));

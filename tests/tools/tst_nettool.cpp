@@ -35,9 +35,9 @@ void tst_NetTool::httpSendsRequest_data()
     QTest::addColumn<QByteArray>("requestLine");
     QTest::addColumn<QByteArray>("body");
 
-    QTest::newRow("get puts the pairs in the URL") << QStringList{"get", "a=1", "b=x y"}
-                                                   << QByteArray("GET /svc?a=1&b=x%20y HTTP/1.1") << QByteArray();
-    QTest::newRow("post sends a form") << QStringList{"post", "a=1", "b=x y"} << QByteArray("POST /svc HTTP/1.1")
+    QTest::newRow("get puts the pairs in the URL")
+        << QStringList { "get", "a=1", "b=x y" } << QByteArray("GET /svc?a=1&b=x%20y HTTP/1.1") << QByteArray();
+    QTest::newRow("post sends a form") << QStringList { "post", "a=1", "b=x y" } << QByteArray("POST /svc HTTP/1.1")
                                        << QByteArray("a=1&b=x%20y");
 }
 
@@ -50,7 +50,7 @@ void tst_NetTool::httpSendsRequest()
     RecordingHttpServer server;
     arguments.insert(1, QString::fromLatin1(server.url()));
     QProcess tool;
-    QVERIFY(runTool(tool, QStringList{QStringLiteral("http")} + arguments));
+    QVERIFY(runTool(tool, QStringList { QStringLiteral("http") } + arguments));
     QCOMPARE(tool.exitCode(), 0);
     QCOMPARE(tool.readAllStandardOutput(), QByteArray("canned reply\n"));
     QCOMPARE(server.requests.size(), 1);
@@ -63,15 +63,15 @@ void tst_NetTool::badArguments_data()
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QByteArray>("error");
 
-    QTest::newRow("http without URL") << QStringList{"http", "get"} << QByteArray("libcontrol http: expects");
-    QTest::newRow("unknown method") << QStringList{"http", "put", "http://127.0.0.1:1/"}
+    QTest::newRow("http without URL") << QStringList { "http", "get" } << QByteArray("libcontrol http: expects");
+    QTest::newRow("unknown method") << QStringList { "http", "put", "http://127.0.0.1:1/" }
                                     << QByteArray("libcontrol http: unknown method");
-    QTest::newRow("not an http URL") << QStringList{"http", "get", "ftp://127.0.0.1/"}
+    QTest::newRow("not an http URL") << QStringList { "http", "get", "ftp://127.0.0.1/" }
                                      << QByteArray("libcontrol http: not an http");
-    QTest::newRow("pair without equals") << QStringList{"http", "post", "http://127.0.0.1:1/", "a"}
+    QTest::newRow("pair without equals") << QStringList { "http", "post", "http://127.0.0.1:1/", "a" }
                                          << QByteArray("libcontrol http: expects NAME=VALUE");
-    QTest::newRow("port out of range") << QStringList{"serve", "65536"} << QByteArray("libcontrol serve: port out");
-    QTest::newRow("port not a number") << QStringList{"serve", "http"} << QByteArray("libcontrol serve: not an");
+    QTest::newRow("port out of range") << QStringList { "serve", "65536" } << QByteArray("libcontrol serve: port out");
+    QTest::newRow("port not a number") << QStringList { "serve", "http" } << QByteArray("libcontrol serve: not an");
 }
 
 void tst_NetTool::badArguments()
@@ -90,7 +90,7 @@ void tst_NetTool::serveOnTakenPortFails()
     QTcpServer taken;
     QVERIFY(taken.listen(QHostAddress::LocalHost, 0));
     QProcess tool;
-    QVERIFY(runTool(tool, {QStringLiteral("serve"), QString::number(taken.serverPort())}));
+    QVERIFY(runTool(tool, { QStringLiteral("serve"), QString::number(taken.serverPort()) }));
     QCOMPARE(tool.exitCode(), 3);
     QVERIFY(tool.readAllStandardError().contains("libcontrol serve: cannot listen on 127.0.0.1:"));
 }
@@ -99,7 +99,7 @@ void tst_NetTool::serveShowsAccumulatedBytes()
 {
     QProcess tool;
     tool.setReadChannel(QProcess::StandardOutput);
-    tool.start(QStringLiteral(LIBCONTROL_TOOL), {QStringLiteral("serve"), QStringLiteral("0")});
+    tool.start(QStringLiteral(LIBCONTROL_TOOL), { QStringLiteral("serve"), QStringLiteral("0") });
     QByteArray output;
     QTRY_VERIFY_WITH_TIMEOUT((output += tool.readAll()).contains('\n'), 10000);
     const QRegularExpression listening(QStringLiteral("^listening on 127\\.0\\.0\\.1:(\\d+) "));

@@ -39,7 +39,7 @@ bool splitPairs(Tool::Context &ctx, const QStringList &pairs, QList<QPair<QByteA
             Tool::usageError(ctx, "http", QStringLiteral("expects NAME=VALUE, got \"%1\"").arg(pair));
             return false;
         }
-        items.append({pair.left(equals).toUtf8(), pair.mid(equals + 1).toUtf8()});
+        items.append({ pair.left(equals).toUtf8(), pair.mid(equals + 1).toUtf8() });
     }
     return true;
 }
