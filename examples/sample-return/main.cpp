@@ -39,6 +39,10 @@ int main(int argc, char *argv[])
         return 1;
     }
 
+    // Process-wide switch, set once at start: texts narrower than 256
+    // characters travel in the form blocks' XML.
+    CStringField::setLargeSizeSerializeOption(SampleReturn::ArchiveVersion, 256);
+
     SampleReturn ret;
     ret.fillExample();
     ret.t1.Calculate();

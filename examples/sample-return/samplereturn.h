@@ -17,7 +17,7 @@ class SampleReturn
 {
 public:
     /** The archive version the sample writes, and the key its blocks are scrambled with. */
-    static constexpr unsigned int ArchiveVersion = 66036;
+    static constexpr unsigned int ArchiveVersion = 0x10220;
     static char const *const Key;
 
     SampleReturn();
