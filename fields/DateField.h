@@ -78,7 +78,7 @@ public:
     /** The null date, QDate(0, 0, 0). */
     static QDate const s_zeroDate;
 
-    QDate m_date;
+    QDate m_date; ///< the date, null when empty
 };
 
 /**
@@ -96,7 +96,7 @@ public:
     int readFromString(CString const &text) override;
     int toString(CString &out) override;
 
-    QDateTime m_dateTime;
+    QDateTime m_dateTime; ///< the time stamp
 };
 
 #endif

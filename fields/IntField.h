@@ -40,7 +40,7 @@ public:
     /** The decimal text, no grouping or padding ("-12"). */
     int toString(CString &out) override;
 
-    int m_nValue;
+    int m_nValue; ///< the value
 };
 
 /**

@@ -32,7 +32,7 @@ public:
     /** "1" or "0" (any non-zero value gives "1"). */
     int toString(CString &out) override;
 
-    int m_nValue;
+    int m_nValue; ///< 0 or 1
 };
 
 /** A retired flag for archives of versionFrom..versionTo; value 0. */

@@ -1,10 +1,13 @@
 #include <LibControl/fields/DateField.h>
 
-#include "datetext_p.h"
+#include <LibControl/common/dates.h>
 
 #include <limits>
 
 namespace {
+
+constexpr int CompactDateCode = 18;
+constexpr int DateTimeCode = 28;
 
 // The range of day numbers that make a valid QDate.
 constexpr qint64 FirstValidDay = -784350574879LL;
@@ -144,13 +147,13 @@ void CDateField::Serialize(unsigned int version, MyDataStream &ar)
 
 int CDateField::readFromString(CString const &text)
 {
-    LibControl::detail::readCompactDate(text, m_date);
+    ReadQDate2(text, CompactDateCode, m_date);
     return 0;
 }
 
 int CDateField::toString(CString &out)
 {
-    LibControl::detail::formatCompactDate(out, m_date);
+    FormatQDate(out, m_date, CompactDateCode);
     return 0;
 }
 
@@ -169,12 +172,12 @@ int CDateTimeField::GetType() const
 
 int CDateTimeField::readFromString(CString const &text)
 {
-    LibControl::detail::readDateTime(text, m_dateTime);
+    ReadQDateTime(text, DateTimeCode, m_dateTime);
     return 0;
 }
 
 int CDateTimeField::toString(CString &out)
 {
-    LibControl::detail::formatDateTime(out, m_dateTime);
+    FormatQDateTime(out, m_dateTime, DateTimeCode);
     return 0;
 }

@@ -78,10 +78,10 @@ public:
     /** Whole-dollar assignment for every amount but percentages; set once at start. */
     static bool p_for_quillon;
 
-    double m_dValue;
+    double m_dValue; ///< the amount in dollars (or the rate)
     bool m_bCheckNegative; ///< ValidateAndCorrect() may zero a negative value
     bool m_bInversePrint; ///< for the print layer only
-    int m_nDecimalsToSave;
+    int m_nDecimalsToSave; ///< decimals shown by toString(), 2 unless a variant says otherwise
 };
 
 /** Debug output: "FF(id: <line code>, value: <text>)". */

@@ -82,12 +82,12 @@ public:
      */
     static void setLargeSizeSerializeOption(unsigned int version, unsigned int size);
 
-    static bool p_for_large_size_serialize;
-    static unsigned int p_for_large_size_serialize_version;
-    static unsigned int p_for_large_size_serialize_size;
+    static bool p_for_large_size_serialize; ///< the length-prefixed form is on
+    static unsigned int p_for_large_size_serialize_version; ///< first archive version using it
+    static unsigned int p_for_large_size_serialize_size; ///< smallest width using it; wider texts skip XML
 
-    CString m_strValue;
-    int m_nSize;
+    CString m_strValue; ///< the text
+    int m_nSize; ///< archive width in bytes and maximum length in characters
 
 private:
     bool usesLengthPrefix(unsigned int version) const;

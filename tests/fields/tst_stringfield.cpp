@@ -32,8 +32,6 @@ private slots:
     void removeCareOf();
     void comparison_data();
     void comparison();
-    void blanksAndZeros_data();
-    void blanksAndZeros();
 };
 
 void tst_StringField::init()
@@ -301,38 +299,6 @@ void tst_StringField::comparison()
     y = x;
     QCOMPARE(QString(y.m_strValue), a);
     QCOMPARE(y.m_nSize, 20);
-}
-
-void tst_StringField::blanksAndZeros_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("blank");
-    QTest::addColumn<bool>("allZero");
-    QTest::addColumn<QString>("trimmed");
-
-    QTest::newRow("empty") << "" << true << true << "";
-    QTest::newRow("spaces") << "   " << true << false << "";
-    QTest::newRow("zeros") << "000" << false << true << "000";
-    QTest::newRow("zeros with space") << " 00" << false << false << "00";
-    QTest::newRow("word") << " Ajax\t" << false << false << "Ajax";
-}
-
-void tst_StringField::blanksAndZeros()
-{
-    QFETCH(QString, text);
-    QFETCH(bool, blank);
-    QFETCH(bool, allZero);
-    QFETCH(QString, trimmed);
-
-    CStringField field("", 3);
-    field.m_strValue = text;
-    QCOMPARE(field.IsEmptyIfRemoveBlank(), blank);
-    QCOMPARE(field.IsAllZero(), allZero);
-    QCOMPARE(QString(field.GetTrimedString()), trimmed);
-    QCOMPARE(static_cast<std::string>(field), trimmed.toStdString());
-    QCOMPARE(QString(field.m_strValue), text);
-    field.RemoveBlanks();
-    QCOMPARE(QString(field.m_strValue), trimmed);
 }
 
 QTEST_GUILESS_MAIN(tst_StringField)
