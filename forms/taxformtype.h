@@ -423,9 +423,15 @@ LIBCONTROL_EXPORT extern STRUCT_GENERAL_RELATION_CODE_INFO const Global_CAUSProv
 
 /** The federal forms with their mandatory masks and conditional bytes. */
 LIBCONTROL_EXPORT extern STRUCT_JURISDICTION_FORM_INFO const Federal_Forms_Info[62];
+/** 62, the length of Federal_Forms_Info. */
 LIBCONTROL_EXPORT extern int const Federal_Forms_Num;
 
-// Provincial lists: mask 1 marks the province's own tax and credit forms.
+/**
+ * @name Provincial form lists
+ * Each province's forms with their lengths. Mask 1 marks the province's own
+ * tax and credit forms, 0 an optional form; the conditional byte is 0.
+ * @{
+ */
 LIBCONTROL_EXPORT extern STRUCT_JURISDICTION_FORM_INFO const AB_Forms_Info[3];
 LIBCONTROL_EXPORT extern int const AB_Forms_Num;
 LIBCONTROL_EXPORT extern STRUCT_JURISDICTION_FORM_INFO const BC_Forms_Info[10];
@@ -450,12 +456,14 @@ LIBCONTROL_EXPORT extern STRUCT_JURISDICTION_FORM_INFO const SK_Forms_Info[8];
 LIBCONTROL_EXPORT extern int const SK_Forms_Num;
 LIBCONTROL_EXPORT extern STRUCT_JURISDICTION_FORM_INFO const YT_Forms_Info[7];
 LIBCONTROL_EXPORT extern int const YT_Forms_Num;
+/** @} */
 /**
  * Quebec's slot, empty (null, 0) in this library. A Quebec module that
  * provides a list sets both and then the Province_Forms_Info[PROV_QC] entry,
  * which was copied from them when the library was loaded.
  */
 LIBCONTROL_EXPORT extern STRUCT_JURISDICTION_FORM_INFO const *QC_Forms_Info;
+/** The length of QC_Forms_Info; 0 in this library. */
 LIBCONTROL_EXPORT extern int QC_Forms_Num;
 
 /**
@@ -467,6 +475,7 @@ LIBCONTROL_EXPORT extern STRUCT_PROVINCE_FORMS_INFO Province_Forms_Info[14];
 
 /** Forms filed once per source, so a return may hold several copies. */
 LIBCONTROL_EXPORT extern ENUMTYPE_FORM const SFD_Forms_Info[11];
+/** 11, the length of SFD_Forms_Info. */
 LIBCONTROL_EXPORT extern int const SFD_Forms_Num;
 
 /** Forms no longer filed; IsFormExpired reads it. */
