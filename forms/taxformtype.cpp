@@ -9,8 +9,8 @@
 namespace {
 
 // Linear search, first match wins; a null list holds nothing.
-STRUCT_JURISDICTION_FORM_INFO const *findInList(STRUCT_JURISDICTION_FORM_INFO const *list, int count,
-                                               ENUMTYPE_FORM form)
+STRUCT_JURISDICTION_FORM_INFO const *findInList(
+    STRUCT_JURISDICTION_FORM_INFO const *list, int count, ENUMTYPE_FORM form)
 {
     if (!list)
         return nullptr;
@@ -27,8 +27,7 @@ STRUCT_JURISDICTION_FORM_INFO const *findInProvince(int province, ENUMTYPE_FORM 
     return findInList(entry.forms, entry.count, form);
 }
 
-template<typename T, std::size_t N>
-bool contains(T const (&list)[N], T value)
+template<typename T, std::size_t N> bool contains(T const (&list)[N], T value)
 {
     return std::find(std::begin(list), std::end(list), value) != std::end(list);
 }

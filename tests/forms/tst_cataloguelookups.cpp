@@ -146,7 +146,7 @@ void tst_CatalogueLookups::isFormMandatory()
     QFETCH(int, form);
     QFETCH(bool, mandatory);
     QCOMPARE(IsFormMandatory(static_cast<unsigned char>(kinds), ENUMTYPE_PROVINCE(province), ENUMTYPE_FORM(form)),
-             mandatory);
+        mandatory);
 }
 
 void tst_CatalogueLookups::formKinds_data()
@@ -247,13 +247,18 @@ void tst_CatalogueLookups::provinceOrStateCode_data()
     QTest::addColumn<QString>("code");
     QTest::addColumn<QString>("xml");
     QString const untouched = QStringLiteral("keep");
-    QTest::newRow("province") << 1 << 9 << "ON" << "<Prov>ON</Prov>\n";
-    QTest::newRow("non-resident") << 1 << 15 << "OT" << "<Prov>OT</Prov>\n";
+    QTest::newRow("province") << 1 << 9 << "ON"
+                              << "<Prov>ON</Prov>\n";
+    QTest::newRow("non-resident") << 1 << 15 << "OT"
+                                  << "<Prov>OT</Prov>\n";
     QTest::newRow("no province") << 1 << 0 << untouched << "";
     QTest::newRow("past the provinces") << 1 << 18 << untouched << "";
-    QTest::newRow("first state") << 2 << 1 << "AK" << "<Prov>AK</Prov>\n";
-    QTest::newRow("misspelled state") << 2 << 55 << "VT" << "<Prov>VT</Prov>\n";
-    QTest::newRow("last state") << 2 << 59 << "WY" << "<Prov>WY</Prov>\n";
+    QTest::newRow("first state") << 2 << 1 << "AK"
+                                 << "<Prov>AK</Prov>\n";
+    QTest::newRow("misspelled state") << 2 << 55 << "VT"
+                                      << "<Prov>VT</Prov>\n";
+    QTest::newRow("last state") << 2 << 59 << "WY"
+                                << "<Prov>WY</Prov>\n";
     QTest::newRow("state zero") << 2 << 0 << untouched << "";
     QTest::newRow("past the states") << 2 << 60 << untouched << "";
     QTest::newRow("other kind") << 3 << 9 << untouched << "";

@@ -17,8 +17,7 @@ QString text(char const *s)
     return s ? QString::fromLatin1(s) : QString();
 }
 
-template<typename Row, std::size_t N>
-QVector<int> idsOf(Row const (&table)[N])
+template<typename Row, std::size_t N> QVector<int> idsOf(Row const (&table)[N])
 {
     QVector<int> ids;
     for (Row const &row : table)
@@ -26,8 +25,7 @@ QVector<int> idsOf(Row const (&table)[N])
     return ids;
 }
 
-template<std::size_t N>
-QVector<int> codesOf(STRUCT_GENERAL_RELATION_CODE_INFO const (&table)[N])
+template<std::size_t N> QVector<int> codesOf(STRUCT_GENERAL_RELATION_CODE_INFO const (&table)[N])
 {
     QVector<int> codes;
     for (auto const &row : table)
@@ -35,8 +33,7 @@ QVector<int> codesOf(STRUCT_GENERAL_RELATION_CODE_INFO const (&table)[N])
     return codes;
 }
 
-template<std::size_t N>
-QVector<int> formsOf(STRUCT_JURISDICTION_FORM_INFO const (&list)[N])
+template<std::size_t N> QVector<int> formsOf(STRUCT_JURISDICTION_FORM_INFO const (&list)[N])
 {
     QVector<int> forms;
     for (auto const &entry : list)
@@ -44,8 +41,7 @@ QVector<int> formsOf(STRUCT_JURISDICTION_FORM_INFO const (&list)[N])
     return forms;
 }
 
-template<typename T>
-int distinctCount(QList<T> const &values)
+template<typename T> int distinctCount(QList<T> const &values)
 {
     QSet<T> set;
     for (T const &value : values)
@@ -172,7 +168,7 @@ void tst_Catalogues::formColumnsAreWellFormed()
         QVERIFY2(text(row.title).contains(QLatin1String(" - ")), qPrintable(where));
         QVERIFY2(text(row.dataClass).startsWith(QLatin1String("TaxData_")), qPrintable(where));
         QVERIFY2(text(row.printFile) == QLatin1String("noprint.pdf") || text(row.printFile).endsWith("-25e.pdf"),
-                 qPrintable(where));
+            qPrintable(where));
         QVERIFY2(text(row.layoutFile).endsWith(".xml") || text(row.layoutFile).endsWith(".xmd"), qPrintable(where));
         QVERIFY2(row.flagA <= 1 && row.flagB <= 1, qPrintable(where));
         classes.insert(text(row.dataClass));
@@ -186,14 +182,13 @@ void tst_Catalogues::formFlags_data()
     QTest::addColumn<int>("expectedCount");
     QTest::addColumn<QVector<int>>("named");
     QTest::newRow("flag A") << false << 21
-                            << QVector<int>{FORM_T1GENERAL, FORM_SCHEDULE1, FORM_SCHEDULE5, FORM_ON428, FORM_BC428,
-                                            FORM_AB428, FORM_MB428, FORM_NB428, FORM_NL428, FORM_NT428, FORM_NS428,
-                                            FORM_NU428, FORM_PE428, FORM_SK428, FORM_YT428, FORM_T778, FORM_T1238,
-                                            FORM_SCHEDULE14};
+                            << QVector<int> { FORM_T1GENERAL, FORM_SCHEDULE1, FORM_SCHEDULE5, FORM_ON428, FORM_BC428,
+                                   FORM_AB428, FORM_MB428, FORM_NB428, FORM_NL428, FORM_NT428, FORM_NS428, FORM_NU428,
+                                   FORM_PE428, FORM_SK428, FORM_YT428, FORM_T778, FORM_T1238, FORM_SCHEDULE14 };
     QTest::newRow("flag B") << true << 18
-                            << QVector<int>{FORM_T1GENERAL, FORM_SCHEDULE1, FORM_SCHEDULE2, FORM_SCHEDULE5, FORM_T776,
-                                            FORM_T1163, FORM_T2032, FORM_T2042, FORM_T2124, FORM_COMMISSION,
-                                            FORM_T5013, FORM_T1KS_LASTYEAR, FORM_ON428, FORM_BC428, FORM_AB428};
+                            << QVector<int> { FORM_T1GENERAL, FORM_SCHEDULE1, FORM_SCHEDULE2, FORM_SCHEDULE5, FORM_T776,
+                                   FORM_T1163, FORM_T2032, FORM_T2042, FORM_T2124, FORM_COMMISSION, FORM_T5013,
+                                   FORM_T1KS_LASTYEAR, FORM_ON428, FORM_BC428, FORM_AB428 };
 }
 
 void tst_Catalogues::formFlags()
@@ -218,12 +213,11 @@ void tst_Catalogues::federalList()
     QCOMPARE(Federal_Forms_Info[7].form, int(FORM_SCHEDULE8));
     QCOMPARE(Federal_Forms_Info[61].form, int(FORM_INSTALMENT));
     // Only the marked rows differ from mask 3, conditional 0.
-    QMap<int, QPair<int, int>> const marked{{FORM_T1GENERAL, {3, 1}}, {FORM_T183, {1, 1}},
-                                            {FORM_T185, {1, 0}},      {FORM_T1013_ONLINE, {1, 0}},
-                                            {FORM_RC71, {1, 0}},      {FORM_T1KS, {3, 1}}};
+    QMap<int, QPair<int, int>> const marked { { FORM_T1GENERAL, { 3, 1 } }, { FORM_T183, { 1, 1 } },
+        { FORM_T185, { 1, 0 } }, { FORM_T1013_ONLINE, { 1, 0 } }, { FORM_RC71, { 1, 0 } }, { FORM_T1KS, { 3, 1 } } };
     QSet<int> seen;
     for (auto const &entry : Federal_Forms_Info) {
-        QPair<int, int> const expected = marked.value(entry.form, {3, 0});
+        QPair<int, int> const expected = marked.value(entry.form, { 3, 0 });
         QCOMPARE(qMakePair(int(entry.mandatory), int(entry.conditional)), expected);
         QCOMPARE(entry.reserved[0] | entry.reserved[1], 0);
         seen.insert(entry.form);
@@ -236,20 +230,21 @@ void tst_Catalogues::provincialLists_data()
     QTest::addColumn<int>("province");
     QTest::addColumn<QVector<int>>("forms");
     QTest::addColumn<QVector<int>>("mandatory");
-    QTest::newRow("AB") << int(PROV_AB) << formsOf(AB_Forms_Info) << QVector<int>{FORM_AB428};
-    QTest::newRow("BC") << int(PROV_BC) << formsOf(BC_Forms_Info) << QVector<int>{FORM_BC428, FORM_BC479};
-    QTest::newRow("MB") << int(PROV_MB) << formsOf(MB_Forms_Info) << QVector<int>{FORM_MB428, FORM_MB479, FORM_MB428A};
-    QTest::newRow("NB") << int(PROV_NB) << formsOf(NB_Forms_Info) << QVector<int>{FORM_NB428};
-    QTest::newRow("NL") << int(PROV_NL) << formsOf(NL_Forms_Info) << QVector<int>{FORM_NL428, FORM_NL479};
-    QTest::newRow("NS") << int(PROV_NS) << formsOf(NS_Forms_Info) << QVector<int>{FORM_NS428, FORM_NS479};
-    QTest::newRow("NT") << int(PROV_NT) << formsOf(NT_Forms_Info) << QVector<int>{FORM_NT428, FORM_NT479};
-    QTest::newRow("NU") << int(PROV_NU) << formsOf(NU_Forms_Info) << QVector<int>{FORM_NU428, FORM_NU479};
+    QTest::newRow("AB") << int(PROV_AB) << formsOf(AB_Forms_Info) << QVector<int> { FORM_AB428 };
+    QTest::newRow("BC") << int(PROV_BC) << formsOf(BC_Forms_Info) << QVector<int> { FORM_BC428, FORM_BC479 };
+    QTest::newRow("MB") << int(PROV_MB) << formsOf(MB_Forms_Info)
+                        << QVector<int> { FORM_MB428, FORM_MB479, FORM_MB428A };
+    QTest::newRow("NB") << int(PROV_NB) << formsOf(NB_Forms_Info) << QVector<int> { FORM_NB428 };
+    QTest::newRow("NL") << int(PROV_NL) << formsOf(NL_Forms_Info) << QVector<int> { FORM_NL428, FORM_NL479 };
+    QTest::newRow("NS") << int(PROV_NS) << formsOf(NS_Forms_Info) << QVector<int> { FORM_NS428, FORM_NS479 };
+    QTest::newRow("NT") << int(PROV_NT) << formsOf(NT_Forms_Info) << QVector<int> { FORM_NT428, FORM_NT479 };
+    QTest::newRow("NU") << int(PROV_NU) << formsOf(NU_Forms_Info) << QVector<int> { FORM_NU428, FORM_NU479 };
     QTest::newRow("ON") << int(PROV_ON) << formsOf(ON_Forms_Info)
-                        << QVector<int>{FORM_ON428, FORM_ON428A, FORM_ON479, FORM_ON_BEN};
-    QTest::newRow("PE") << int(PROV_PE) << formsOf(PE_Forms_Info) << QVector<int>{FORM_PE428};
-    QTest::newRow("SK") << int(PROV_SK) << formsOf(SK_Forms_Info) << QVector<int>{FORM_SK428, FORM_SK479};
+                        << QVector<int> { FORM_ON428, FORM_ON428A, FORM_ON479, FORM_ON_BEN };
+    QTest::newRow("PE") << int(PROV_PE) << formsOf(PE_Forms_Info) << QVector<int> { FORM_PE428 };
+    QTest::newRow("SK") << int(PROV_SK) << formsOf(SK_Forms_Info) << QVector<int> { FORM_SK428, FORM_SK479 };
     QTest::newRow("YT") << int(PROV_YT) << formsOf(YT_Forms_Info)
-                        << QVector<int>{FORM_YT428, FORM_YT479, FORM_YT432, FORM_YT_S14};
+                        << QVector<int> { FORM_YT428, FORM_YT479, FORM_YT432, FORM_YT_S14 };
 }
 
 void tst_Catalogues::provincialLists()
@@ -257,7 +252,7 @@ void tst_Catalogues::provincialLists()
     QFETCH(int, province);
     QFETCH(QVector<int>, forms);
     QFETCH(QVector<int>, mandatory);
-    static int const counts[14] = {0, 3, 10, 11, 5, 7, 5, 4, 4, 8, 3, 0, 8, 7};
+    static int const counts[14] = { 0, 3, 10, 11, 5, 7, 5, 4, 4, 8, 3, 0, 8, 7 };
     STRUCT_PROVINCE_FORMS_INFO const &entry = Province_Forms_Info[province];
     QCOMPARE(forms.size(), counts[province]);
     QCOMPARE(entry.count, counts[province]);
@@ -309,23 +304,40 @@ void tst_Catalogues::provinces_data()
     QTest::addColumn<QString>("code");
     QTest::addColumn<bool>("hasModules");
     QTest::newRow("none") << 0 << "Choose A Province" << QString() << false;
-    QTest::newRow("Alberta") << 1 << "Alberta" << "AB" << true;
-    QTest::newRow("British Columbia") << 2 << "British Columbia" << "BC" << true;
-    QTest::newRow("Manitoba") << 3 << "Manitoba" << "MB" << true;
-    QTest::newRow("New Brunswick") << 4 << "New Brunswick" << "NB" << true;
-    QTest::newRow("Newfoundland") << 5 << "Newfoundland And Labrador" << "NL" << true;
-    QTest::newRow("Nova Scotia") << 6 << "Nova Scotia" << "NS" << true;
-    QTest::newRow("Northwest Territories") << 7 << "Northwest Territory" << "NT" << true;
-    QTest::newRow("Nunavut") << 8 << "Nunavut" << "NU" << true;
-    QTest::newRow("Ontario") << 9 << "Ontario" << "ON" << true;
-    QTest::newRow("Prince Edward Island") << 10 << "Prince Edward Island" << "PE" << true;
-    QTest::newRow("Quebec") << 11 << "Quebec" << "QC" << false;
-    QTest::newRow("Saskatchewan") << 12 << "Saskatchewan" << "SK" << true;
-    QTest::newRow("Yukon") << 13 << "Yukon Territory" << "YT" << true;
-    QTest::newRow("non-resident") << 14 << "Non-Resident" << "OT" << false;
-    QTest::newRow("section 216") << 15 << "Non-Resident Under Section 216" << "OT" << false;
-    QTest::newRow("section 217") << 16 << "Non-Resident Under Section 217" << "OT" << false;
-    QTest::newRow("deemed resident") << 17 << "Deemed Resident" << "OT" << false;
+    QTest::newRow("Alberta") << 1 << "Alberta"
+                             << "AB" << true;
+    QTest::newRow("British Columbia") << 2 << "British Columbia"
+                                      << "BC" << true;
+    QTest::newRow("Manitoba") << 3 << "Manitoba"
+                              << "MB" << true;
+    QTest::newRow("New Brunswick") << 4 << "New Brunswick"
+                                   << "NB" << true;
+    QTest::newRow("Newfoundland") << 5 << "Newfoundland And Labrador"
+                                  << "NL" << true;
+    QTest::newRow("Nova Scotia") << 6 << "Nova Scotia"
+                                 << "NS" << true;
+    QTest::newRow("Northwest Territories") << 7 << "Northwest Territory"
+                                           << "NT" << true;
+    QTest::newRow("Nunavut") << 8 << "Nunavut"
+                             << "NU" << true;
+    QTest::newRow("Ontario") << 9 << "Ontario"
+                             << "ON" << true;
+    QTest::newRow("Prince Edward Island") << 10 << "Prince Edward Island"
+                                          << "PE" << true;
+    QTest::newRow("Quebec") << 11 << "Quebec"
+                            << "QC" << false;
+    QTest::newRow("Saskatchewan") << 12 << "Saskatchewan"
+                                  << "SK" << true;
+    QTest::newRow("Yukon") << 13 << "Yukon Territory"
+                           << "YT" << true;
+    QTest::newRow("non-resident") << 14 << "Non-Resident"
+                                  << "OT" << false;
+    QTest::newRow("section 216") << 15 << "Non-Resident Under Section 216"
+                                 << "OT" << false;
+    QTest::newRow("section 217") << 16 << "Non-Resident Under Section 217"
+                                 << "OT" << false;
+    QTest::newRow("deemed resident") << 17 << "Deemed Resident"
+                                     << "OT" << false;
 }
 
 void tst_Catalogues::provinces()
@@ -348,11 +360,9 @@ void tst_Catalogues::provinces()
 
 void tst_Catalogues::slips()
 {
-    static char const *const shortNames[27] = {
-        "N/A",   "T4 (Releve 1)", "T4A",   "T4A(P)", "T4RSP", "T4E",     "T4A(OAS)", "T4RIF", "T5",
-        "T3",    "T5003",         "T5007", "T4F",    "T5013", "T4PS",    "T4A-RCA",  "T5006", "RC62",
-        "RC210", "T5008", "RRSP Contribution", "Manitoba Shelter Benefit", "PRPP Receipt", "T1204", "NR4",
-        "T2202", "T4FHSA"};
+    static char const *const shortNames[27] = { "N/A", "T4 (Releve 1)", "T4A", "T4A(P)", "T4RSP", "T4E", "T4A(OAS)",
+        "T4RIF", "T5", "T3", "T5003", "T5007", "T4F", "T5013", "T4PS", "T4A-RCA", "T5006", "RC62", "RC210", "T5008",
+        "RRSP Contribution", "Manitoba Shelter Benefit", "PRPP Receipt", "T1204", "NR4", "T2202", "T4FHSA" };
     for (int s = 0; s < 27; ++s) {
         QCOMPARE(text(Global_Slips_Info[s].shortName), QString::fromLatin1(shortNames[s]));
         QVERIFY(!text(Global_Slips_Info[s].title).isEmpty());
@@ -369,13 +379,13 @@ void tst_Catalogues::taxWizard()
     QCOMPARE(text(general.title), QStringLiteral("General Info, Donation, Union Due"));
     QCOMPARE(text(general.shortTitle), QStringLiteral("General Info, Donation, Union Due, Moving Expenses"));
     QCOMPARE(text(Global_TaxWizard_Info[TAXWIZARD_LAST_YEAR].title),
-             QStringLiteral("Amounts from Last Year Tax Return Assessment"));
+        QStringLiteral("Amounts from Last Year Tax Return Assessment"));
     QCOMPARE(text(Global_TaxWizard_Info[TAXWIZARD_DEPENDANTS].shortTitle), QStringLiteral("Dependant's Information"));
     QCOMPARE(text(Global_TaxWizard_Info[TAXWIZARD_RRSP].shortTitle), QStringLiteral("RRSP Claim"));
     QVector<int> enabled;
     for (auto const &step : Global_TaxWizard_Info)
         enabled << step.enabled;
-    QCOMPARE(enabled, (QVector<int>{0, 1, 1, 1, 1, 1, 0}));
+    QCOMPARE(enabled, (QVector<int> { 0, 1, 1, 1, 1, 1, 0 }));
 }
 
 void tst_Catalogues::countries()
@@ -385,15 +395,15 @@ void tst_Catalogues::countries()
     QCOMPARE(text(select.isoCode2) + text(select.isoCode3), QString(""));
     auto row = [](int i) {
         STRUCT_COUNTRY_INFO const &c = Global_Countries_Info[i];
-        return QStringList{text(c.name), text(c.isoCode2), text(c.isoCode3)};
+        return QStringList { text(c.name), text(c.isoCode2), text(c.isoCode3) };
     };
-    QCOMPARE(row(1), (QStringList{"Canada", "CA", "CAN"}));
-    QCOMPARE(row(2), (QStringList{"United States of America", "US", "USA"}));
+    QCOMPARE(row(1), (QStringList { "Canada", "CA", "CAN" }));
+    QCOMPARE(row(2), (QStringList { "United States of America", "US", "USA" }));
     QCOMPARE(row(3).first(), QStringLiteral("Brazil"));
     QCOMPARE(row(4).first(), QStringLiteral("China"));
     QCOMPARE(row(5).first(), QStringLiteral("France"));
-    QCOMPARE(row(116), (QStringList{"Nigeria", "NG", "NGA"}));
-    QCOMPARE(row(117), (QStringList{"Other Country", "OT", "OTH"}));
+    QCOMPARE(row(116), (QStringList { "Nigeria", "NG", "NGA" }));
+    QCOMPARE(row(117), (QStringList { "Other Country", "OT", "OTH" }));
     QSet<QString> names, codes2, codes3;
     for (int i = 1; i <= 116; ++i) {
         QStringList const r = row(i);
@@ -411,15 +421,15 @@ void tst_Catalogues::countries()
 void tst_Catalogues::usStates()
 {
     auto row = [](int i) {
-        return QStringList{text(Global_USStates_Info[i].name), text(Global_USStates_Info[i].code)};
+        return QStringList { text(Global_USStates_Info[i].name), text(Global_USStates_Info[i].code) };
     };
-    QCOMPARE(row(0), (QStringList{"Choose A State", "N/A"}));
-    QCOMPARE(row(1), (QStringList{"Alaska", "AK"}));
-    QCOMPARE(row(2), (QStringList{"Alabama", "AL"}));
-    QCOMPARE(row(3), (QStringList{"Arkansas", "AR"}));
-    QCOMPARE(row(54), (QStringList{"Virgin Islands", "VI"}));
-    QCOMPARE(row(55), (QStringList{"Vemont", "VT"}));
-    QCOMPARE(row(59), (QStringList{"Wyoming", "WY"}));
+    QCOMPARE(row(0), (QStringList { "Choose A State", "N/A" }));
+    QCOMPARE(row(1), (QStringList { "Alaska", "AK" }));
+    QCOMPARE(row(2), (QStringList { "Alabama", "AL" }));
+    QCOMPARE(row(3), (QStringList { "Arkansas", "AR" }));
+    QCOMPARE(row(54), (QStringList { "Virgin Islands", "VI" }));
+    QCOMPARE(row(55), (QStringList { "Vemont", "VT" }));
+    QCOMPARE(row(59), (QStringList { "Wyoming", "WY" }));
     for (int i = 2; i <= 59; ++i)
         QVERIFY2(row(i - 1)[1] < row(i)[1], qPrintable(row(i)[0]));
     for (auto const &state : Global_USStates_Info)
@@ -492,8 +502,8 @@ void tst_Catalogues::fixedLists()
     QVERIFY(expired.contains(FORM_SCHEDULE8_OLD));
     QVERIFY(!expired.contains(FORM_SCHEDULE8));
     QCOMPARE(QVector<int>(std::begin(NoFarmStabilization_Provs_Info), std::end(NoFarmStabilization_Provs_Info)),
-             (QVector<int>{7, 6, 11}));
-    QCOMPARE(QVector<int>(std::begin(T1163_Provs_Info), std::end(T1163_Provs_Info)), (QVector<int>{10, 9, 12, 1}));
+        (QVector<int> { 7, 6, 11 }));
+    QCOMPARE(QVector<int>(std::begin(T1163_Provs_Info), std::end(T1163_Provs_Info)), (QVector<int> { 10, 9, 12, 1 }));
 }
 
 QTEST_GUILESS_MAIN(tst_Catalogues)

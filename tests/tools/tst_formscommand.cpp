@@ -15,7 +15,7 @@ struct Run
 Run runForms(QStringList const &arguments)
 {
     QProcess tool;
-    tool.start(QStringLiteral(LIBCONTROL_TOOL), QStringList{QStringLiteral("forms")} + arguments);
+    tool.start(QStringLiteral(LIBCONTROL_TOOL), QStringList { QStringLiteral("forms") } + arguments);
     Run run;
     if (!tool.waitForFinished(10000) || tool.exitStatus() != QProcess::NormalExit)
         return run;
@@ -54,12 +54,12 @@ void tst_FormsCommand::listing_data()
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<int>("count");
     QTest::addColumn<QList<int>>("mandatory");
-    QTest::newRow("whole catalogue") << QStringList{} << 213 << QList<int>{};
-    QTest::newRow("Ontario, kind 1") << QStringList{"--province", "on", "--mandatory", "1"} << 7
-                                     << QList<int>{1, 24, 25, 93, 96, 140, 169};
-    QTest::newRow("no province, kind 2") << QStringList{"--mandatory", "2"} << 2 << QList<int>{1, 93};
-    QTest::newRow("Quebec has no provincial forms") << QStringList{"--province", "QC", "--mandatory", "3"} << 3
-                                                    << QList<int>{1, 93, 96};
+    QTest::newRow("whole catalogue") << QStringList {} << 213 << QList<int> {};
+    QTest::newRow("Ontario, kind 1") << QStringList { "--province", "on", "--mandatory", "1" } << 7
+                                     << QList<int> { 1, 24, 25, 93, 96, 140, 169 };
+    QTest::newRow("no province, kind 2") << QStringList { "--mandatory", "2" } << 2 << QList<int> { 1, 93 };
+    QTest::newRow("Quebec has no provincial forms")
+        << QStringList { "--province", "QC", "--mandatory", "3" } << 3 << QList<int> { 1, 93, 96 };
 }
 
 void tst_FormsCommand::listing()
@@ -79,11 +79,11 @@ void tst_FormsCommand::listing()
 void tst_FormsCommand::refusal_data()
 {
     QTest::addColumn<QStringList>("arguments");
-    QTest::newRow("unknown province") << QStringList{"--province", "OT"};
-    QTest::newRow("missing value") << QStringList{"--mandatory"};
-    QTest::newRow("kinds not a number") << QStringList{"--mandatory", "all"};
-    QTest::newRow("kinds past a byte") << QStringList{"--mandatory", "256"};
-    QTest::newRow("unknown option") << QStringList{"--year", "2025"};
+    QTest::newRow("unknown province") << QStringList { "--province", "OT" };
+    QTest::newRow("missing value") << QStringList { "--mandatory" };
+    QTest::newRow("kinds not a number") << QStringList { "--mandatory", "all" };
+    QTest::newRow("kinds past a byte") << QStringList { "--mandatory", "256" };
+    QTest::newRow("unknown option") << QStringList { "--year", "2025" };
 }
 
 void tst_FormsCommand::refusal()

@@ -95,9 +95,8 @@ int formsCommand(Context &ctx)
                 << QString::fromLatin1(row.title) << '\n';
         ++listed;
     }
-    QString const where = options.province == PROV_NONE
-        ? QStringLiteral("no province")
-        : QString::fromLatin1(Global_Provs_Info[options.province].code);
+    QString const where = options.province == PROV_NONE ? QStringLiteral("no province")
+                                                        : QString::fromLatin1(Global_Provs_Info[options.province].code);
     ctx.out << '\n'
             << listed << " forms. Marks: M mandatory for return kinds " << options.kinds << " and " << where
             << ", A flag A, B flag B (import), X expired, + several per return.\n";
