@@ -4,8 +4,9 @@
 #include <random>
 
 // The digest commands must print exactly what the system's sha1sum and
-// sha256sum print, so scripts can use either.
-class tst_ShaTool : public QObject
+// sha256sum print, so scripts can use either; the configuration command
+// shows what a file sets.
+class tst_SysCommands : public QObject
 {
     Q_OBJECT
 
@@ -20,12 +21,13 @@ private Q_SLOTS:
     void standardInput_data();
     void standardInput();
     void unreadableFileIsReported();
+    void configCommandShowsTheSettings();
 
 private:
     QTemporaryDir m_dir;
 };
 
-QByteArray tst_ShaTool::run(QString const &program, QStringList const &args, QByteArray const &input, int *exitCode)
+QByteArray tst_SysCommands::run(QString const &program, QStringList const &args, QByteArray const &input, int *exitCode)
 {
     QProcess process;
     process.start(program, args);
@@ -40,7 +42,7 @@ QByteArray tst_ShaTool::run(QString const &program, QStringList const &args, QBy
     return process.readAllStandardOutput();
 }
 
-QString tst_ShaTool::writeRandomFile(QString const &name, int size, unsigned seed)
+QString tst_SysCommands::writeRandomFile(QString const &name, int size, unsigned seed)
 {
     std::mt19937 generator(seed);
     QByteArray bytes(size, Qt::Uninitialized);
@@ -53,14 +55,14 @@ QString tst_ShaTool::writeRandomFile(QString const &name, int size, unsigned see
     return path;
 }
 
-void tst_ShaTool::matchesSystemTool_data()
+void tst_SysCommands::matchesSystemTool_data()
 {
     QTest::addColumn<QString>("command");
     for (char const *command : {"sha1", "sha256"})
         QTest::newRow(command) << QString::fromLatin1(command);
 }
 
-void tst_ShaTool::matchesSystemTool()
+void tst_SysCommands::matchesSystemTool()
 {
     QFETCH(QString, command);
     QString const systemTool = QStandardPaths::findExecutable(command + QLatin1String("sum"));
@@ -84,12 +86,12 @@ void tst_ShaTool::matchesSystemTool()
     QCOMPARE(ours, run(systemTool, files));
 }
 
-void tst_ShaTool::standardInput_data()
+void tst_SysCommands::standardInput_data()
 {
     matchesSystemTool_data();
 }
 
-void tst_ShaTool::standardInput()
+void tst_SysCommands::standardInput()
 {
     QFETCH(QString, command);
     QString const systemTool = QStandardPaths::findExecutable(command + QLatin1String("sum"));
@@ -100,7 +102,7 @@ void tst_ShaTool::standardInput()
     QCOMPARE(ours, run(systemTool, {QStringLiteral("-")}, input));
 }
 
-void tst_ShaTool::unreadableFileIsReported()
+void tst_SysCommands::unreadableFileIsReported()
 {
     QString const good = writeRandomFile(QStringLiteral("good.bin"), 10, 9);
     QString const missing = m_dir.filePath(QStringLiteral("missing.bin"));
@@ -114,5 +116,30 @@ void tst_ShaTool::unreadableFileIsReported()
     QCOMPARE(exitCode, 2);
 }
 
-QTEST_GUILESS_MAIN(tst_ShaTool)
-#include "tst_shatool.moc"
+void tst_SysCommands::configCommandShowsTheSettings()
+{
+    QString const path = m_dir.filePath(QStringLiteral("app.ini"));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("\xEF\xBB\xBF platform = Mac\r\nUpdateServer=https://updates.example.test\r\nAutoUpdate=YES\r\n"
+               "UseProxy=perhaps\r\nunknown=1");
+    file.close();
+
+    int exitCode = -1;
+    QByteArray const out = run(QStringLiteral(LIBCONTROL_TOOL), {QStringLiteral("config"), path}, {}, &exitCode);
+    QCOMPARE(exitCode, 0);
+    QCOMPARE(out, QByteArray("Platform: \"Mac\"\n"
+                             "operating-system type: 2 (macOS)\n"
+                             "UpdateServer: \"https://updates.example.test\"\n"
+                             "DataFolder: \"\"\n"
+                             "Language: \"en\"\n"
+                             "AutoUpdate: yes\n"
+                             "UseProxy: no\n"));
+
+    run(QStringLiteral(LIBCONTROL_TOOL), {QStringLiteral("config"), m_dir.filePath(QStringLiteral("none.ini"))}, {},
+        &exitCode);
+    QCOMPARE(exitCode, 3);
+}
+
+QTEST_GUILESS_MAIN(tst_SysCommands)
+#include "tst_syscommands.moc"
