@@ -157,7 +157,7 @@ public:
     /** Record `i`, or null outside 0..count-1. */
     _OneDependantInfoStru *getDependant(int i) const;
 
-    /** Copies the records and the field values; the adjustment amount too. */
+    /** Copies the records and the field values; the adjustment amount stays the owner's. */
     DependantInfoStruct &operator=(DependantInfoStruct const &other);
     /**
      * Record i against record i for every i below this list's count, then the

@@ -86,7 +86,6 @@ DependantInfoStruct &DependantInfoStruct::operator=(DependantInfoStruct const &o
     AllocData(other.m_nCount);
     for (int i = 0; i < m_nCount; ++i)
         m_pData[size_t(i)] = other.m_pData[size_t(i)];
-    fld_AdjustAmount = const_cast<CFloatField &>(other.fld_AdjustAmount);
     Common_Func_OperatorAssign(const_cast<std::vector<CField *> &>(other.m_fields), m_fields);
     return *this;
 }
