@@ -17,6 +17,8 @@ int formsCommand(Context &ctx);
 
 
 // Form files and outputs
+int inspectCommand(Context &ctx);
+int diffCommand(Context &ctx);
 
 
 // Services

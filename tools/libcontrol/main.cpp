@@ -33,6 +33,8 @@ Command const Commands[] = {
 
 
     // Form files and outputs
+    {"inspect", "FILE --key KEY [--xml]", "list the form blocks of a return file with their fields", Tool::inspectCommand},
+    {"diff", "OLD NEW --key KEY", "the fields that differ between the form blocks of two files", Tool::diffCommand},
 
 
     // Services
