@@ -122,24 +122,6 @@ void CTaxData_Form::SetDepInfo(DependantInfoStruct *depInfo)
     }
 }
 
-int CTaxData_Form::WriteLumenFormXmlFile(char const *folder, char const *formName, char const *fileName,
-                                         unsigned int flags)
-{
-    Q_UNUSED(folder);
-    Q_UNUSED(formName);
-    Q_UNUSED(fileName);
-    Q_UNUSED(flags);
-    return 0;
-}
-
-int CTaxData_Form::WriteJavaFile(char const *folder, char const *className, bool forPrint)
-{
-    Q_UNUSED(folder);
-    Q_UNUSED(className);
-    Q_UNUSED(forPrint);
-    return 0;
-}
-
 int CTaxData_Form::WriteXMLFile(char const *folder, char const *formName, char const *fileName, unsigned int flags)
 {
     Q_UNUSED(folder);
@@ -149,26 +131,9 @@ int CTaxData_Form::WriteXMLFile(char const *folder, char const *formName, char c
     return 0;
 }
 
-void CTaxData_Form::FillTestPrintData() { }
-
 void CTaxData_Form::GetXtraPrintFields(std::list<std::string> &names)
 {
     Q_UNUSED(names);
-}
-
-void CTaxData_Form::WriteJavaFileDeclaration(FILE *f)
-{
-    Q_UNUSED(f);
-}
-
-void CTaxData_Form::WriteJavaFileContruction(FILE *f)
-{
-    Q_UNUSED(f);
-}
-
-void CTaxData_Form::WriteJavaFileImplementation(FILE *f)
-{
-    Q_UNUSED(f);
 }
 
 DependantInfoStruct *CTaxData_Form::GetDepInfo() const

@@ -141,20 +141,41 @@ public:
     virtual int WriteNetfile(unsigned char kinds, NetfileGenObjParamStru &param);
     /** Links the return's dependant list and hands it to every dependant worksheet. */
     virtual void SetDepInfo(DependantInfoStruct *depInfo);
-    /** Writes the form-layout XML file; the base writes nothing. Returns 0. */
+    /**
+     * Writes `folder`/xml/`fileName`: a form named after `formName` without
+     * "TaxData_", one row per field (integers as radio groups, flags, texts
+     * with their width, amounts, dates), retired fields marked notused and
+     * version bounds other than the defaults as attributes. A date-time field
+     * gets an empty row. `flags` select nothing. Returns 0, -1 for an empty
+     * file name (nothing written), -5 when the file cannot be created.
+     */
     virtual int WriteLumenFormXmlFile(char const *folder, char const *formName, char const *fileName,
                                       unsigned int flags);
-    /** Writes the Java class of the form; the base writes nothing. Returns 0. */
+    /**
+     * Writes `folder`/`className`.java: a TaxFormData subclass declaring the
+     * form's fields and then its worksheets' fields, with the print package
+     * header when `forPrint` is true. Returns 0, -1 for an empty class name
+     * (no file is made), -5 when the file cannot be created.
+     */
     virtual int WriteJavaFile(char const *folder, char const *className, bool forPrint);
     /** Writes the form's XML description; the base writes nothing. Returns 0. */
     virtual int WriteXMLFile(char const *folder, char const *formName, char const *fileName, unsigned int flags);
-    /** Puts test values into the fields for checking print layouts; the base does nothing. */
+    /**
+     * Puts test values into the fields for checking print layouts: integers
+     * 1 (fld_moreentry_num 0, so no extra entries are printed), flags 1,
+     * texts up to ten "a" letters within their width, amounts 12345.67, dates
+     * and date-times the current ones. Worksheets are left alone.
+     */
     virtual void FillTestPrintData();
     /** Appends names of extra print fields; the base adds none. */
     virtual void GetXtraPrintFields(std::list<std::string> &names);
-    /** Writes the Java field declarations; the base writes nothing. */
+    /**
+     * Writes one Java declaration per field, named by DotChangeToUnderscore
+     * of the field name, with its line code (null when 0), extra value and
+     * version bounds. A null file writes nothing.
+     */
     virtual void WriteJavaFileDeclaration(FILE *f);
-    /** Writes the Java constructor body; the base writes nothing. */
+    /** Writes "m_data.add(identifier);" per field. A null file writes nothing. */
     virtual void WriteJavaFileContruction(FILE *f);
     /** Writes extra Java methods; the base writes nothing. */
     virtual void WriteJavaFileImplementation(FILE *f);
