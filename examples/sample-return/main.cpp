@@ -4,9 +4,11 @@
 #include "samplereturn.h"
 
 #include <LibControl/common/utilities.h>
+#include <LibControl/forms/NetfileGeneral.h>
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QTextStream>
 
@@ -19,6 +21,13 @@ QString amount(double value)
     CString text;
     myDoubleToString(value, -2, text);
     return text.isEmpty() ? QStringLiteral("0.00") : QString(text);
+}
+
+void writeText(QString const &path, QString const &text)
+{
+    QFile file(path);
+    if (file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        file.write(text.toUtf8());
 }
 
 bool wellFormed(QString const &path)
@@ -68,6 +77,20 @@ int main(int argc, char *argv[])
     QString const printData = folder + QStringLiteral("/print-data.xml");
     ret.writePrintData(printData);
 
+    CString netfile;
+    int lineCount = 0;
+    std::map<int, STRUCT_NETFILE_TIA_FIELD_TYPE> filed;
+    NetfileGenObjParamStru param{nullptr, &netfile, &lineCount, &filed};
+    ret.t1.WriteNetfile(0xFF, param);
+    QString const netfileXml = folder + QStringLiteral("/netfile.xml");
+    writeText(netfileXml, QStringLiteral("<T1Return>\n") + netfile + QStringLiteral("</T1Return>\n"));
+
+    QDir(folder).mkpath(QStringLiteral("xml"));
+    QByteArray const folderBytes = QFile::encodeName(folder);
+    ret.t1.WriteLumenFormXmlFile(folderBytes.constData(), "T1", "t1-layout.xml", 0);
+    ret.t1.WriteJavaFile(folderBytes.constData(), "SampleT1Form", false);
+    QString const layoutXml = folder + QStringLiteral("/xml/t1-layout.xml");
+
     SampleT1Form const &t1 = ret.t1;
     out << "Sample 2025 return for " << t1.fld_FirstName.m_strValue << ' ' << t1.fld_LastName.m_strValue << '\n'
         << "  total income (15000)       " << amount(t1.fld_15000_TotalIncome.m_dValue) << '\n'
@@ -84,6 +107,13 @@ int main(int argc, char *argv[])
         out << "  " << message << '\n';
     out << "Saved " << returnFile << " (" << QFileInfo(returnFile).size() << " bytes); reloaded "
         << (identical ? "identical" : "DIFFERENT") << '\n'
-        << "Print data " << printData << (wellFormed(printData) ? " (well-formed XML)" : " (NOT well-formed)") << '\n';
-    return identical && wellFormed(printData) ? 0 : 1;
+        << "Netfile: " << lineCount << " lines in " << netfileXml << '\n';
+    bool allWellFormed = true;
+    for (QString const &xml : {printData, netfileXml, layoutXml}) {
+        bool const ok = wellFormed(xml);
+        allWellFormed = allWellFormed && ok;
+        out << "  " << xml << (ok ? " is well-formed XML" : " is NOT well-formed XML") << '\n';
+    }
+    out << "Java declaration: " << folder << "/SampleT1Form.java\n";
+    return identical && allWellFormed ? 0 : 1;
 }

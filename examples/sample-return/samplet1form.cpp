@@ -2,6 +2,7 @@
 
 #include <LibControl/common/addresschecks.h>
 #include <LibControl/common/idchecks.h>
+#include <LibControl/forms/NetfileGeneral.h>
 
 #include <QDateTime>
 
@@ -161,4 +162,21 @@ int SampleT1Form::Validate(unsigned char, std::list<CString> &messages)
     if (!fld_Email.m_strValue.IsEmpty() && !checkEmail(fld_Email.m_strValue.toStdStringUTF8().c_str()))
         refuse("E-mail address is not valid.");
     return int(messages.size() - before);
+}
+
+int SampleT1Form::WriteNetfile(unsigned char, NetfileGenObjParamStru &param)
+{
+    int lines = 0;
+    // Whole-dollar lines: a zero amount is not filed.
+    for (CFloatField *field : {&fld_10100_Employment, &fld_11500_Pension, &fld_12000_Dividends, &fld_12100_Interest,
+                               &fld_15000_TotalIncome, &fld_20800_RRSP, &fld_23600_NetIncome,
+                               &fld_26000_TaxableIncome, &fld_30000_BasicPersonal, &fld_30400_EligibleDependant,
+                               &fld_30450_Caregiver, &fld_33099_Medical, &fld_33500_TotalCredits})
+        lines += NETFILE_DOLLAR_FIELD_Func(0, *field, param);
+    // Dollars-and-cents lines for the tax itself.
+    for (CFloatField *field : {&fld_30800_CPP, &fld_31200_EI, &fld_33800_CreditAmount, &fld_40400_FederalTax,
+                               &fld_42000_NetFederalTax, &fld_43700_TaxDeducted, &fld_48400_Refund,
+                               &fld_48500_Balance})
+        lines += NETFILE_DOLLARCENT_VALUE_Func(field->m_nLineCode, field->m_dValue, param);
+    return lines;
 }

@@ -24,6 +24,8 @@ public:
 
     int Calculate() override;
     int Validate(unsigned char kinds, std::list<CString> &messages) override;
+    /** Files the income, deduction, credit and tax lines. */
+    int WriteNetfile(unsigned char kinds, NetfileGenObjParamStru &param) override;
 
     // Identification
     CStringField fld_FirstName;
