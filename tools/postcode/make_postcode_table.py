@@ -66,9 +66,9 @@ SECTIONS = [
 ]
 
 
-def codes_of(spec):
+def codes_of(areas):
     codes = []
-    for group in spec.split():
+    for group in areas.split():
         prefix, letters = group.split(":")
         codes.extend(prefix + letter for letter in letters)
     return codes
@@ -160,7 +160,7 @@ def verify(path):
 
 def main():
     if "--check" not in sys.argv:
-        sections = [(p, fit(p, n, codes_of(spec))) for p, n, spec in SECTIONS]
+        sections = [(p, fit(p, n, codes_of(areas))) for p, n, areas in SECTIONS]
         lines = shape(layout(sections))
         os.makedirs(os.path.dirname(TABLE), exist_ok=True)
         with open(TABLE, "wb") as out:
