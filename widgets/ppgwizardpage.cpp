@@ -6,6 +6,7 @@
 #include <LibControl/fields/floatfield.h>
 #include <LibControl/fields/stringfield.h>
 #include <LibControl/widgets/basetaxpage.h>
+#include <LibControl/worksheets/WorkSheetData.h>
 #include <LibControl/widgets/doublelineedit.h>
 
 WizardBase::WizardBase(QWidget *parent, const QString &title)
@@ -77,8 +78,11 @@ bool PpgWizardPage::validatePage()
 
 void PpgWizardPage::storeAndReload(CField *field)
 {
-    if (field)
-        GetDataFromDoc();
+    if (!field)
+        return;
+    if (m_pWSData)
+        m_pWSData->Calculate();
+    GetDataFromDoc();
 }
 
 void PpgWizardPage::onStringEditFinished()

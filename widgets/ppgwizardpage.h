@@ -34,9 +34,10 @@ public:
 
 /**
  * The base of every worksheet page: binds widgets to the fields of a
- * worksheet (and its form) as BaseTaxPage does for form pages. After every
- * edit the whole page reloads, so computed lines follow at once; Next and
- * Finish write every widget back. Neither the worksheet nor the form is
+ * worksheet (and its form) as BaseTaxPage does for form pages. Every edit
+ * is stored, the worksheet recalculated (CWSBaseData::Calculate) and the
+ * whole page reloaded, so computed lines follow at once; Next and Finish
+ * write every widget back. Neither the worksheet nor the form is
  * owned, and either may be null.
  */
 class LIBCONTROL_EXPORT PpgWizardPage : public QWizardPage
