@@ -2,9 +2,6 @@
 
 #include <LibControl/services/sha_p.h>
 
-#include <algorithm>
-#include <cstring>
-
 using namespace LibControl::detail;
 
 namespace {
@@ -80,29 +77,7 @@ void SHA1::reset()
 
 void SHA1::add(void const *data, size_t numBytes)
 {
-    if (numBytes == 0)
-        return;
-    auto const *bytes = static_cast<unsigned char const *>(data);
-    if (m_bufferSize > 0) {
-        size_t const take = std::min<size_t>(numBytes, 64 - m_bufferSize);
-        std::memcpy(m_buffer + m_bufferSize, bytes, take);
-        m_bufferSize += unsigned(take);
-        bytes += take;
-        numBytes -= take;
-        if (m_bufferSize < 64)
-            return;
-        processBlock(m_buffer);
-        m_bufferSize = 0;
-    }
-    if (size_t const blocks = numBytes / 64) {
-        sha1Compress()(m_hash, bytes, blocks);
-        m_numBytes += 64 * uint64_t(blocks);
-        bytes += 64 * blocks;
-        numBytes -= 64 * blocks;
-    }
-    if (numBytes > 0)
-        std::memcpy(m_buffer, bytes, numBytes);
-    m_bufferSize = unsigned(numBytes);
+    shaAppend(m_hash, sha1Compress(), m_numBytes, m_buffer, m_bufferSize, data, numBytes);
 }
 
 void SHA1::processBlock(void const *block)

@@ -1,8 +1,9 @@
-// Run-time choice of the SHA compression code and the padding shared by
-// SHA1 and SHA256.
+// Run-time choice of the SHA compression code, and the block buffering and
+// padding shared by SHA1 and SHA256.
 
 #include <LibControl/services/sha_p.h>
 
+#include <algorithm>
 #include <atomic>
 #include <cstring>
 
@@ -91,6 +92,35 @@ ShaCompress sha1Compress()
 ShaCompress sha256Compress()
 {
     return engines().sha256.load(std::memory_order_relaxed);
+}
+
+void shaAppend(uint32_t *state, ShaCompress compress, uint64_t &compressedBytes, unsigned char *buffer,
+               unsigned &bufferSize, void const *data, size_t numBytes)
+{
+    if (numBytes == 0)
+        return;
+    auto const *bytes = static_cast<unsigned char const *>(data);
+    if (bufferSize > 0) {
+        size_t const take = std::min<size_t>(numBytes, 64 - bufferSize);
+        std::memcpy(buffer + bufferSize, bytes, take);
+        bufferSize += unsigned(take);
+        bytes += take;
+        numBytes -= take;
+        if (bufferSize < 64)
+            return;
+        compress(state, buffer, 1);
+        compressedBytes += 64;
+        bufferSize = 0;
+    }
+    if (size_t const blocks = numBytes / 64) {
+        compress(state, bytes, blocks);
+        compressedBytes += 64 * uint64_t(blocks);
+        bytes += 64 * blocks;
+        numBytes -= 64 * blocks;
+    }
+    if (numBytes > 0)
+        std::memcpy(buffer, bytes, numBytes);
+    bufferSize = unsigned(numBytes);
 }
 
 void shaFinish(uint32_t *state, ShaCompress compress, uint64_t compressedBytes, unsigned char *tail,

@@ -44,6 +44,15 @@ LIBCONTROL_EXPORT void sha1CompressPortable(uint32_t *state, unsigned char const
 LIBCONTROL_EXPORT void sha256CompressPortable(uint32_t *state, unsigned char const *blocks, size_t count);
 
 /**
+ * Appends `numBytes` bytes from `data` to a running digest: tops up the
+ * partial block in `buffer` (`bufferSize` bytes, below 64), compresses whole
+ * blocks straight from `data` and keeps the rest in `buffer`.
+ * `compressedBytes` grows by 64 for every block compressed into `state`.
+ */
+void shaAppend(uint32_t *state, ShaCompress compress, uint64_t &compressedBytes, unsigned char *buffer,
+               unsigned &bufferSize, void const *data, size_t numBytes);
+
+/**
  * Pads the message tail (`tailSize` bytes, below 64, in `tail`, which has
  * room for 64) after `compressedBytes` bytes, and compresses the final one
  * or two blocks into `state`: a 0x80 byte, zeros, the 64-bit big-endian
