@@ -2,6 +2,8 @@
 
 #include <LibControl/worksheets/dependantinfo.h>
 
+#include <optional>
+
 namespace {
 
 // The spouse or eligible dependant of schedule 5, who is not in the list.
@@ -9,15 +11,52 @@ constexpr int SpouseOrEligibleDependant = 303;
 constexpr unsigned int DepNetIncOverwriteVersion = 0x1009a;
 constexpr unsigned int CaregiverOverwriteVersion = 0x10192;
 
-// Line 3 of the infirm-dependant and caregiver worksheets: line 1 less line
-// 2, within 0 and the maximum (no tolerance on the maximum here).
-void calculateLine3(CFloatField &line3, CFloatField &base, CFloatField &netIncome, double max)
+// The infirm-dependant and caregiver worksheets name their lines alike:
+// BaseAmount is line 1, DepNetInc line 2, fld_3 and fld_4 lines 3 and 4.
+//
+// Fills lines 2 to 4: line 3 is line 1 less line 2 within 0 and m_dMax3 (no
+// tolerance on the maximum here); line 4 is the other worksheet's amount when
+// it claims for this dependant, or always when `alwaysShared`. Returns line 3
+// less line 4; with no dependant selected the claim is cleared instead.
+template<class Worksheet>
+std::optional<double> line3LessLine4(Worksheet &ws, double netIncome, bool alwaysShared)
 {
-    line3 = base.m_dValue - netIncome.m_dValue;
-    if (line3.m_dValue < 0)
-        line3.m_dValue = 0;
-    if (line3.m_dValue > max)
-        line3.m_dValue = max;
+    int const idx = ws.DepIdx.m_nValue;
+    ws.DepNetInc.m_dValue = idx < 1 ? 0.0 : netIncome;
+    ws.fld_3 = ws.BaseAmount.m_dValue - ws.DepNetInc.m_dValue;
+    if (ws.fld_3.m_dValue < 0)
+        ws.fld_3.m_dValue = 0;
+    if (ws.fld_3.m_dValue > ws.m_dMax3)
+        ws.fld_3.m_dValue = ws.m_dMax3;
+    ws.fld_4.m_dValue = 0;
+    if (idx < 1) {
+        ws.AmountClaim.m_dValue = 0;
+        return std::nullopt;
+    }
+    if (alwaysShared || idx == ws.m_nOtherDepIdx)
+        ws.fld_4.m_dValue = ws.m_dOtherAmount;
+    return ws.fld_3.m_dValue - ws.fld_4.m_dValue;
+}
+
+// The fields the two worksheets share, in archive order; `add` registers one.
+template<class Worksheet, class Add>
+void addLineFields(Worksheet &ws, Add const &add)
+{
+    add(ws.BaseAmount, "BaseAmount");
+    add(ws.DepNetInc, "DepNetInc");
+    add(ws.fld_3, "fld_3");
+    add(ws.fld_bClaim5816_notused, "fld_bClaim5816_notused");
+    add(ws.fld_4, "fld_4");
+    add(ws.AmountClaim, "AmountClaim");
+}
+
+template<class Worksheet>
+void setLineParameters(Worksheet &ws, double base, double max, int otherDepIdx, double otherAmount)
+{
+    ws.BaseAmount.m_dValue = base;
+    ws.m_dMax3 = max;
+    ws.m_nOtherDepIdx = otherDepIdx;
+    ws.m_dOtherAmount = otherAmount;
 }
 
 } // namespace
@@ -94,38 +133,22 @@ CWSInfirmDepAmtData::~CWSInfirmDepAmtData() = default;
 
 void CWSInfirmDepAmtData::addFields()
 {
-    addField(BaseAmount, "BaseAmount");
-    addField(DepNetInc, "DepNetInc");
-    addField(fld_3, "fld_3");
-    addField(fld_bClaim5816_notused, "fld_bClaim5816_notused");
-    addField(fld_4, "fld_4");
-    addField(AmountClaim, "AmountClaim");
+    addLineFields(*this, [this](CField &field, char const *name) { addField(field, name); });
 }
 
 void CWSInfirmDepAmtData::SetParameterAndF5816Info(double base, double max, int otherDepIdx, double otherAmount)
 {
-    BaseAmount.m_dValue = base;
-    m_dMax3 = max;
-    m_nOtherDepIdx = otherDepIdx;
-    m_dOtherAmount = otherAmount;
+    setLineParameters(*this, base, max, otherDepIdx, otherAmount);
 }
 
 int CWSInfirmDepAmtData::Calculate()
 {
-    int const idx = DepIdx.m_nValue;
-    if (idx < 1)
-        DepNetInc.m_dValue = 0;
-    else if (idx != SpouseOrEligibleDependant)
-        DepNetInc.m_dValue = selectedNetIncome();
-    calculateLine3(fld_3, BaseAmount, DepNetInc, m_dMax3);
-    fld_4.m_dValue = 0;
-    if (idx < 1) {
-        AmountClaim.m_dValue = 0;
+    bool const spouse = DepIdx.m_nValue == SpouseOrEligibleDependant;
+    std::optional<double> const claim =
+        line3LessLine4(*this, spouse ? DepNetInc.m_dValue : selectedNetIncome(), spouse);
+    if (!claim)
         return 0;
-    }
-    if (idx == SpouseOrEligibleDependant || idx == m_nOtherDepIdx)
-        fld_4.m_dValue = m_dOtherAmount;
-    AmountClaim = fld_3.m_dValue - fld_4.m_dValue;
+    AmountClaim = *claim;
     if (AmountClaim.m_dValue < 0)
         AmountClaim.m_dValue = 0;
     return 0;
@@ -155,36 +178,21 @@ CWSCaregiverAmtData::~CWSCaregiverAmtData() = default;
 
 void CWSCaregiverAmtData::addFields()
 {
-    addField(BaseAmount, "BaseAmount");
-    addField(DepNetInc, "DepNetInc");
-    addField(fld_3, "fld_3");
-    addField(fld_bClaim5816_notused, "fld_bClaim5816_notused");
-    addField(fld_4, "fld_4");
-    addField(AmountClaim, "AmountClaim");
+    addLineFields(*this, [this](CField &field, char const *name) { addField(field, name); });
     addField(bOverwrite, "bOverwrite");
 }
 
 void CWSCaregiverAmtData::SetParameter(double base, double max, int otherDepIdx, double otherAmount)
 {
-    BaseAmount.m_dValue = base;
-    m_dMax3 = max;
-    m_nOtherDepIdx = otherDepIdx;
-    m_dOtherAmount = otherAmount;
+    setLineParameters(*this, base, max, otherDepIdx, otherAmount);
 }
 
 int CWSCaregiverAmtData::Calculate()
 {
-    int const idx = DepIdx.m_nValue;
-    DepNetInc.m_dValue = idx < 1 ? 0.0 : selectedNetIncome();
-    calculateLine3(fld_3, BaseAmount, DepNetInc, m_dMax3);
-    fld_4.m_dValue = 0;
-    if (idx < 1) {
-        AmountClaim.m_dValue = 0;
+    std::optional<double> const computed = line3LessLine4(*this, selectedNetIncome(), false);
+    if (!computed)
         return 0;
-    }
-    if (idx == m_nOtherDepIdx)
-        fld_4.m_dValue = m_dOtherAmount;
-    double result = fld_3.m_dValue - fld_4.m_dValue;
+    double result = *computed;
     if (bOverwrite.m_nValue) {
         if (AmountClaim.m_dValue > result)
             AmountClaim.m_dValue = result;
