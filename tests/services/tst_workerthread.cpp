@@ -58,9 +58,8 @@ class tst_WorkerThread : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void fullRunReportsZeroToEighty();
-    void cancelledBeforeStartRunsNoStep();
-    void cancelTakesEffectBeforeNextStep();
+    void progressUntilCancelled_data();
+    void progressUntilCancelled();
     void cancelFromAnotherThread();
     void checkStrInStrList_data();
     void checkStrInStrList();
@@ -68,40 +67,34 @@ private Q_SLOTS:
     void fileSearchOfMissingFolder();
 };
 
-void tst_WorkerThread::fullRunReportsZeroToEighty()
+void tst_WorkerThread::progressUntilCancelled_data()
 {
-    CountingWorker worker;
-    Recorder recorder(worker);
-    worker.start();
-    QTRY_COMPARE_WITH_TIMEOUT(recorder.finished, 1, 10000);
-    QVERIFY(worker.wait(10000));
-    QCOMPARE(recorder.progress, QList<int>({ 0, 20, 40, 60, 80 }));
-    QCOMPARE(worker.jobs.loadAcquire(), 5);
-}
+    QTest::addColumn<bool>("cancelBeforeStart");
+    QTest::addColumn<int>("cancelDuringJob");
+    QTest::addColumn<QList<int>>("progress");
 
-void tst_WorkerThread::cancelledBeforeStartRunsNoStep()
-{
-    CountingWorker worker;
-    Recorder recorder(worker);
-    worker.cancel();
-    worker.start();
-    QTRY_COMPARE_WITH_TIMEOUT(recorder.finished, 1, 10000);
-    QVERIFY(worker.wait(10000));
-    QCOMPARE(recorder.progress, QList<int>());
-    QCOMPARE(worker.jobs.loadAcquire(), 0);
-}
-
-void tst_WorkerThread::cancelTakesEffectBeforeNextStep()
-{
-    CountingWorker worker;
-    worker.cancelDuringJob = 2;
-    Recorder recorder(worker);
-    worker.start();
-    QTRY_COMPARE_WITH_TIMEOUT(recorder.finished, 1, 10000);
-    QVERIFY(worker.wait(10000));
+    QTest::newRow("full run reports 0 to 80") << false << 0 << QList<int>{0, 20, 40, 60, 80};
+    QTest::newRow("cancelled before start runs no step") << true << 0 << QList<int>{};
     // The step that saw the cancel still completes and reports.
-    QCOMPARE(recorder.progress, QList<int>({ 0, 20 }));
-    QCOMPARE(worker.jobs.loadAcquire(), 2);
+    QTest::newRow("cancel takes effect before the next step") << false << 2 << QList<int>{0, 20};
+}
+
+void tst_WorkerThread::progressUntilCancelled()
+{
+    QFETCH(bool, cancelBeforeStart);
+    QFETCH(int, cancelDuringJob);
+    QFETCH(QList<int>, progress);
+
+    CountingWorker worker;
+    worker.cancelDuringJob = cancelDuringJob;
+    Recorder recorder(worker);
+    if (cancelBeforeStart)
+        worker.cancel();
+    worker.start();
+    QTRY_COMPARE_WITH_TIMEOUT(recorder.finished, 1, 10000);
+    QVERIFY(worker.wait(10000));
+    QCOMPARE(recorder.progress, progress);
+    QCOMPARE(worker.jobs.loadAcquire(), progress.size());
 }
 
 void tst_WorkerThread::cancelFromAnotherThread()
