@@ -1,31 +1,44 @@
 #ifndef LIBCONTROL_TESTS_FIELDS_FIELDARCHIVE_H
 #define LIBCONTROL_TESTS_FIELDS_FIELDARCHIVE_H
 
-// Small helpers shared by the field tests: archive one field into bytes and
-// load one back.
+// Small helpers shared by the archive tests: the bytes a writer puts into a
+// fresh archive, and a reader run over given bytes.
 
 #include <LibControl/fields/Field.h>
 
 #include <QBuffer>
 #include <QByteArray>
 
-inline QByteArray storeField(CField &field, unsigned int version)
+template<class Write>
+QByteArray archived(Write const &write)
 {
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
     MyDataStream ar(&buffer);
-    field.Serialize(version, ar);
+    write(ar);
     return bytes;
 }
 
-inline QDataStream::Status loadField(CField &field, unsigned int version, QByteArray bytes)
+// Returns the stream's status after `read`.
+template<class Read>
+QDataStream::Status readArchive(QByteArray bytes, Read const &read)
 {
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::ReadOnly);
     MyDataStream ar(&buffer);
-    field.Serialize(version, ar);
+    read(ar);
     return ar.status();
+}
+
+inline QByteArray storeField(CField &field, unsigned int version)
+{
+    return archived([&](MyDataStream &ar) { field.Serialize(version, ar); });
+}
+
+inline QDataStream::Status loadField(CField &field, unsigned int version, QByteArray const &bytes)
+{
+    return readArchive(bytes, [&](MyDataStream &ar) { field.Serialize(version, ar); });
 }
 
 #endif

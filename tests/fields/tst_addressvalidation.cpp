@@ -16,86 +16,61 @@ private Q_SLOTS:
 void tst_AddressValidation::reportedParts_data()
 {
     QTest::addColumn<bool>("oneLine");
-    QTest::addColumn<QString>("streetNumber");
-    QTest::addColumn<QString>("streetName");
-    QTest::addColumn<QString>("city");
+    // Street number, street name, city and postal code.
+    QTest::addColumn<QStringList>("texts");
     QTest::addColumn<int>("province");
     QTest::addColumn<int>("country");
-    QTest::addColumn<QString>("postalCode");
     QTest::addColumn<QStringList>("labels");
-    QTest::newRow("complete Canadian address") << false << "123"
-                                               << "Main St"
-                                               << "Ottawa" << 9 << 1 << "K1A 0B1" << QStringList();
-    QTest::newRow("street number of eight characters") << false << "12345678"
-                                                       << "Main St"
-                                                       << "Ottawa" << 9 << 1 << "K1A 0B1" << QStringList();
+    QStringList const street { "Street number/name" };
+    QTest::newRow("complete Canadian address")
+        << false << QStringList { "123", "Main St", "Ottawa", "K1A 0B1" } << 9 << 1 << QStringList();
+    QTest::newRow("street number of eight characters")
+        << false << QStringList { "12345678", "Main St", "Ottawa", "K1A 0B1" } << 9 << 1 << QStringList();
     QTest::newRow("street number of nine characters")
-        << false << "123456789"
-        << "Main St"
-        << "Ottawa" << 9 << 1 << "K1A 0B1" << QStringList { "Street number/name" };
-    QTest::newRow("blank street number") << false << "  "
-                                         << "Main St"
-                                         << "Ottawa" << 9 << 1 << "K1A 0B1" << QStringList { "Street number/name" };
-    QTest::newRow("blank street name") << false << "123"
-                                       << " "
-                                       << "Ottawa" << 9 << 1 << "K1A 0B1" << QStringList { "Street number/name" };
-    QTest::newRow("blank city") << false << "123"
-                                << "Main St"
-                                << "\t" << 9 << 1 << "K1A 0B1" << QStringList { "City" };
+        << false << QStringList { "123456789", "Main St", "Ottawa", "K1A 0B1" } << 9 << 1 << street;
+    QTest::newRow("blank street number") << false << QStringList { "  ", "Main St", "Ottawa", "K1A 0B1" } << 9 << 1
+                                         << street;
+    QTest::newRow("blank street name") << false << QStringList { "123", " ", "Ottawa", "K1A 0B1" } << 9 << 1 << street;
+    QTest::newRow("blank city") << false << QStringList { "123", "Main St", "\t", "K1A 0B1" } << 9 << 1
+                                << QStringList { "City" };
     QTest::newRow("Canada without province, bad postal code")
-        << false << "123"
-        << "Main St"
-        << "Ottawa" << 0 << 1 << "K1A_0B1" << QStringList { "Province", "Postal code" };
-    QTest::newRow("Canada with blank postal code") << false << "123"
-                                                   << "Main St"
-                                                   << "Ottawa" << 9 << 1 << "  " << QStringList { "Postal code" };
-    QTest::newRow("Canadian postal code with blanks around") << false << "123"
-                                                             << "Main St"
-                                                             << "Ottawa" << 9 << 1 << " K1A 0B1 " << QStringList();
-    QTest::newRow("complete US address") << false << "1"
-                                         << "Elm St"
-                                         << "Buffalo" << 50 << 2 << "14201-1234" << QStringList();
+        << false << QStringList { "123", "Main St", "Ottawa", "K1A_0B1" } << 0 << 1
+        << QStringList { "Province", "Postal code" };
+    QTest::newRow("Canada with blank postal code")
+        << false << QStringList { "123", "Main St", "Ottawa", "  " } << 9 << 1 << QStringList { "Postal code" };
+    QTest::newRow("Canadian postal code with blanks around")
+        << false << QStringList { "123", "Main St", "Ottawa", " K1A 0B1 " } << 9 << 1 << QStringList();
+    QTest::newRow("complete US address") << false << QStringList { "1", "Elm St", "Buffalo", "14201-1234" } << 50 << 2
+                                         << QStringList();
     QTest::newRow("US without state, Canadian postal code")
-        << false << "1"
-        << "Elm St"
-        << "Buffalo" << 0 << 2 << "K1A 0B1" << QStringList { "State", "Postal code" };
-    QTest::newRow("no country, postal code not checked") << false << "1"
-                                                         << "Elm St"
-                                                         << "Paris" << 0 << 0 << "" << QStringList { "Country" };
-    QTest::newRow("other country, nothing more checked") << false << "1"
-                                                         << "Rue Haute"
-                                                         << "Paris" << 0 << 3 << "" << QStringList();
-    QTest::newRow("everything missing") << false << ""
-                                        << ""
-                                        << "" << 0 << 0 << ""
+        << false << QStringList { "1", "Elm St", "Buffalo", "K1A 0B1" } << 0 << 2
+        << QStringList { "State", "Postal code" };
+    QTest::newRow("no country, postal code not checked")
+        << false << QStringList { "1", "Elm St", "Paris", "" } << 0 << 0 << QStringList { "Country" };
+    QTest::newRow("other country, nothing more checked")
+        << false << QStringList { "1", "Rue Haute", "Paris", "" } << 0 << 3 << QStringList();
+    QTest::newRow("everything missing") << false << QStringList { "", "", "", "" } << 0 << 0
                                         << QStringList { "Street number/name", "City", "Country" };
-    QTest::newRow("one line, long and without street name") << true << "123456789 Main Street"
-                                                            << ""
-                                                            << "Ottawa" << 9 << 1 << "K1A 0B1" << QStringList();
-    QTest::newRow("one line, blank") << true << " "
-                                     << "Main St"
-                                     << "Ottawa" << 9 << 1 << "K1A 0B1" << QStringList { "Street address" };
-    QTest::newRow("one line, US without state")
-        << true << "1 Elm St"
-        << ""
-        << "Buffalo" << 0 << 2 << "1420" << QStringList { "State", "Postal code" };
+    QTest::newRow("one line, long and without street name")
+        << true << QStringList { "123456789 Main Street", "", "Ottawa", "K1A 0B1" } << 9 << 1 << QStringList();
+    QTest::newRow("one line, blank") << true << QStringList { " ", "Main St", "Ottawa", "K1A 0B1" } << 9 << 1
+                                     << QStringList { "Street address" };
+    QTest::newRow("one line, US without state") << true << QStringList { "1 Elm St", "", "Buffalo", "1420" } << 0 << 2
+                                                << QStringList { "State", "Postal code" };
 }
 
 void tst_AddressValidation::reportedParts()
 {
     QFETCH(bool, oneLine);
-    QFETCH(QString, streetNumber);
-    QFETCH(QString, streetName);
-    QFETCH(QString, city);
+    QFETCH(QStringList, texts);
     QFETCH(int, province);
     QFETCH(int, country);
-    QFETCH(QString, postalCode);
     QFETCH(QStringList, labels);
     CStringField number(nullptr, 30), name(nullptr, 30), cityField(nullptr, 30), postal(nullptr, 10);
-    number.m_strValue = streetNumber;
-    name.m_strValue = streetName;
-    cityField.m_strValue = city;
-    postal.m_strValue = postalCode;
+    number.m_strValue = texts.at(0);
+    name.m_strValue = texts.at(1);
+    cityField.m_strValue = texts.at(2);
+    postal.m_strValue = texts.at(3);
     CIntField const provinceField(province, FIELD_ATTR_NONE);
     CIntField const countryField(country, FIELD_ATTR_NONE);
     long errors = 0;

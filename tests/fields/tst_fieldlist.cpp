@@ -33,21 +33,12 @@ struct Record
 
 QByteArray storeList(std::vector<CField *> &fields, int version)
 {
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    MyDataStream ar(&buffer);
-    Common_Serialize_Func(version, ar, fields);
-    return bytes;
+    return archived([&](MyDataStream &ar) { Common_Serialize_Func(version, ar, fields); });
 }
 
-QDataStream::Status loadList(std::vector<CField *> &fields, int version, QByteArray bytes)
+QDataStream::Status loadList(std::vector<CField *> &fields, int version, QByteArray const &bytes)
 {
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::ReadOnly);
-    MyDataStream ar(&buffer);
-    Common_Serialize_Func(version, ar, fields);
-    return ar.status();
+    return readArchive(bytes, [&](MyDataStream &ar) { Common_Serialize_Func(version, ar, fields); });
 }
 
 } // namespace

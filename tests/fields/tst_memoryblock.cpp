@@ -1,5 +1,6 @@
+#include "fieldarchive.h"
+
 #include <LibControl/fields/barcodeitem.h>
-#include <LibControl/fields/datastream.h>
 #include <LibControl/fields/memoryblock.h>
 
 #include <QBuffer>
@@ -8,22 +9,11 @@
 #include <QTest>
 
 #include <cstdio>
-#include <functional>
 #include <memory>
 
 namespace {
 
 enum Layout { ReturnLayout, ContentLayout, T1013Layout, BarcodeLayout, EncryptedReturnLayout };
-
-QByteArray archived(std::function<void(MyDataStream &)> const &write)
-{
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    MyDataStream ar(&buffer);
-    write(ar);
-    return bytes;
-}
 
 void fill(CMemoryBlock &block, QByteArray const &bytes)
 {

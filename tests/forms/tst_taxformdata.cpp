@@ -1,10 +1,10 @@
+#include "../fields/fieldarchive.h"
+
 #include <LibControl/fields/DateField.h>
-#include <LibControl/fields/datastream.h>
 #include <LibControl/forms/taxformdata.h>
 #include <LibControl/worksheets/DepWorkSheetData.h>
 #include <LibControl/worksheets/dependantinfo.h>
 
-#include <QBuffer>
 #include <QtTest>
 
 namespace {
@@ -111,21 +111,12 @@ QByteArray archiveBytes(QByteArray text, QByteArray const &key, qint32 marker = 
 
 QByteArray store(CTaxData_Form &form, unsigned int version, CString const &key)
 {
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    MyDataStream ar(&buffer);
-    form.Serialize(version, key, ar);
-    return bytes;
+    return archived([&](MyDataStream &ar) { form.Serialize(version, key, ar); });
 }
 
-QDataStream::Status load(CTaxData_Form &form, QByteArray bytes, unsigned int version, CString const &key)
+QDataStream::Status load(CTaxData_Form &form, QByteArray const &bytes, unsigned int version, CString const &key)
 {
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::ReadOnly);
-    MyDataStream ar(&buffer);
-    form.Serialize(version, key, ar);
-    return ar.status();
+    return readArchive(bytes, [&](MyDataStream &ar) { form.Serialize(version, key, ar); });
 }
 
 } // namespace
@@ -298,27 +289,23 @@ void tst_TaxFormData::printData()
 {
     TestForm form;
     form.fillValues();
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    MyDataStream ar(&buffer);
-    form.SerializeXml("T1", 2, ar);
-    QCOMPARE(bytes, QByteArray("<item>\n<c>T1</c>\n<d>2</d>\n"
-                               "<f><c>fld_count</c><v>7</v></f>\n"
-                               "<f><c>fld_amount</c><v>1234.50</v></f>\n"
-                               "<f><c>fld_kept</c><v>10.00</v></f>\n"
-                               "<f><c>fld_name</c><v>A&#38;B</v></f>\n"
-                               "<f><c>fld_flag</c><v>1</v></f>\n"
-                               "<f><c>fld_due</c><v>20240430</v></f>\n"
-                               "<f><c>fld_paid</c><v>20240115</v></f>\n"
-                               "</item>"));
+    QCOMPARE(archived([&](MyDataStream &ar) { form.SerializeXml("T1", 2, ar); }),
+             QByteArray("<item>\n<c>T1</c>\n<d>2</d>\n"
+                        "<f><c>fld_count</c><v>7</v></f>\n"
+                        "<f><c>fld_amount</c><v>1234.50</v></f>\n"
+                        "<f><c>fld_kept</c><v>10.00</v></f>\n"
+                        "<f><c>fld_name</c><v>A&#38;B</v></f>\n"
+                        "<f><c>fld_flag</c><v>1</v></f>\n"
+                        "<f><c>fld_due</c><v>20240430</v></f>\n"
+                        "<f><c>fld_paid</c><v>20240115</v></f>\n"
+                        "</item>"));
 
-    QByteArray input("unchanged");
-    QBuffer reading(&input);
-    reading.open(QIODevice::ReadOnly);
-    MyDataStream loading(&reading);
-    form.SerializeXml("T1", 2, loading);
-    QCOMPARE(reading.pos(), qint64(0));
+    qint64 position = -1;
+    readArchive("unchanged", [&](MyDataStream &ar) {
+        form.SerializeXml("T1", 2, ar);
+        position = ar.device()->pos();
+    });
+    QCOMPARE(position, qint64(0));
 }
 
 void tst_TaxFormData::assignmentAndComparison()

@@ -1,8 +1,8 @@
-#include <LibControl/fields/datastream.h>
+#include "../fields/fieldarchive.h"
+
 #include <LibControl/widgets/styledcombobox.h>
 #include <LibControl/worksheets/dependantinfo.h>
 
-#include <QBuffer>
 #include <QtTest>
 
 #include <cstring>
@@ -44,21 +44,12 @@ void fillList(DependantInfoStruct &list, std::initializer_list<Person> people)
 
 QByteArray store(DependantInfoStruct &list, int version)
 {
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    MyDataStream ar(&buffer);
-    list.serilize(version, ar);
-    return bytes;
+    return archived([&](MyDataStream &ar) { list.serilize(version, ar); });
 }
 
-QDataStream::Status load(DependantInfoStruct &list, QByteArray bytes, int version)
+QDataStream::Status load(DependantInfoStruct &list, QByteArray const &bytes, int version)
 {
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::ReadOnly);
-    MyDataStream ar(&buffer);
-    list.serilize(version, ar);
-    return ar.status();
+    return readArchive(bytes, [&](MyDataStream &ar) { list.serilize(version, ar); });
 }
 
 // Writers for hand-built archives, independent of the code under test.

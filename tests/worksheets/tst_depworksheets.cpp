@@ -1,8 +1,8 @@
-#include <LibControl/fields/datastream.h>
+#include "../fields/fieldarchive.h"
+
 #include <LibControl/worksheets/DepWorkSheetData.h>
 #include <LibControl/worksheets/dependantinfo.h>
 
-#include <QBuffer>
 #include <QtTest>
 
 #include <cstdio>
@@ -20,12 +20,7 @@ void oneDependant(DependantInfoStruct &list, double netIncome, int birthYear = 1
 
 QByteArray archive(CWSBaseData &worksheet, unsigned int version)
 {
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    MyDataStream ar(&buffer);
-    worksheet.Serialize(version, ar);
-    return bytes;
+    return archived([&](MyDataStream &ar) { worksheet.Serialize(version, ar); });
 }
 
 QString javaText(CWSBaseData &worksheet)
@@ -434,14 +429,9 @@ void tst_DepWorksheets::archiveRoundTrip()
     source.fld_Line3ChldCareExp.m_dValue = 1234.56;
     source.fld_overwrite.m_nValue = 1;
     source.fld_claim.m_dValue = 99.99;
-    QByteArray bytes = archive(source, 0x10200);
-
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::ReadOnly);
-    MyDataStream ar(&buffer);
     CWSDisabilityTransferAmtData loaded;
-    loaded.Serialize(0x10200, ar);
-    QCOMPARE(ar.status(), QDataStream::Ok);
+    QCOMPARE(readArchive(archive(source, 0x10200), [&](MyDataStream &ar) { loaded.Serialize(0x10200, ar); }),
+             QDataStream::Ok);
     QVERIFY(!Common_Func_OperatorNotEqual(source.m_fields, loaded.m_fields));
     QCOMPARE(loaded.fld_claim.m_dValue, 99.99);
 }

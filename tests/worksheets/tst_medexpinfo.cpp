@@ -1,8 +1,7 @@
+#include "../fields/fieldarchive.h"
+
 #include <LibControl/worksheets/medexpinfo.h>
 
-#include <LibControl/fields/datastream.h>
-
-#include <QBuffer>
 #include <QtTest>
 
 #include <cstring>
@@ -13,20 +12,12 @@ constexpr int CurrentVersion = 0x10185;
 
 QByteArray store(_MedExpInfoStruct &info, int version)
 {
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    MyDataStream ar(&buffer);
-    info.serilize(version, ar);
-    return bytes;
+    return archived([&](MyDataStream &ar) { info.serilize(version, ar); });
 }
 
-void load(_MedExpInfoStruct &info, QByteArray bytes, int version)
+void load(_MedExpInfoStruct &info, QByteArray const &bytes, int version)
 {
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::ReadOnly);
-    MyDataStream ar(&buffer);
-    info.serilize(version, ar);
+    readArchive(bytes, [&](MyDataStream &ar) { info.serilize(version, ar); });
 }
 
 QByteArray le32(qint32 v)

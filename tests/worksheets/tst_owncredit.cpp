@@ -1,7 +1,7 @@
-#include <LibControl/fields/datastream.h>
+#include "../fields/fieldarchive.h"
+
 #include <LibControl/worksheets/NonDepWorkSheetData.h>
 
-#include <QBuffer>
 #include <QtTest>
 
 // 2025 figures used below (federal): age amount 9,028 reduced by 15% of the
@@ -13,12 +13,7 @@ namespace {
 
 QByteArray archive(CWSBaseData &worksheet)
 {
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    MyDataStream ar(&buffer);
-    worksheet.Serialize(0x10200, ar);
-    return bytes;
+    return archived([&](MyDataStream &ar) { worksheet.Serialize(0x10200, ar); });
 }
 
 } // namespace
