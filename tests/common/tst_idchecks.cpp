@@ -33,7 +33,12 @@ char const *cText(QByteArray const &bytes)
     return bytes.isNull() ? nullptr : bytes.constData();
 }
 
+// The shape checks, one per kind of identifier.
+enum class Shape { Trust, TaxShelter, FileId, SredCode, Date, Digits };
+
 } // namespace
+
+Q_DECLARE_METATYPE(Shape)
 
 class tst_IdChecks : public QObject
 {
@@ -192,69 +197,58 @@ void tst_IdChecks::accountNumbers()
 
 void tst_IdChecks::identifierShapes_data()
 {
-    QTest::addColumn<QString>("kind");
+    QTest::addColumn<Shape>("shape");
     QTest::addColumn<QString>("text");
     QTest::addColumn<bool>("accepted");
-    QTest::newRow("trust with T") << "trust"
-                                  << "T12345678" << true;
-    QTest::newRow("trust with A") << "trust"
-                                  << "A12345678" << true;
-    QTest::newRow("trust with a") << "trust"
-                                  << "a12345678" << false;
-    QTest::newRow("trust with a letter at the end") << "trust"
-                                                    << "T1234567X" << false;
-    QTest::newRow("tax shelter") << "shelter"
-                                 << "TS123456" << true;
-    QTest::newRow("tax shelter, mixed case") << "shelter"
-                                             << "tS123456" << true;
-    QTest::newRow("tax shelter, five digits") << "shelter"
-                                              << "TS12345" << false;
-    QTest::newRow("tax shelter, long s") << "shelter" << QString::fromUtf8("T\u017F123456") << false;
-    QTest::newRow("file id") << "fileid"
-                             << "123456789" << true;
-    QTest::newRow("file id, letter") << "fileid"
-                                     << "12345678a" << false;
+    QTest::newRow("trust with T") << Shape::Trust << "T12345678" << true;
+    QTest::newRow("trust with A") << Shape::Trust << "A12345678" << true;
+    QTest::newRow("trust with a") << Shape::Trust << "a12345678" << false;
+    QTest::newRow("trust with a letter at the end") << Shape::Trust << "T1234567X" << false;
+    QTest::newRow("tax shelter") << Shape::TaxShelter << "TS123456" << true;
+    QTest::newRow("tax shelter, mixed case") << Shape::TaxShelter << "tS123456" << true;
+    QTest::newRow("tax shelter, five digits") << Shape::TaxShelter << "TS12345" << false;
+    QTest::newRow("tax shelter, long s") << Shape::TaxShelter << QString::fromUtf8("T\u017F123456") << false;
+    QTest::newRow("file id") << Shape::FileId << "123456789" << true;
+    QTest::newRow("file id, letter") << Shape::FileId << "12345678a" << false;
     QTest::newRow("file id, Arabic-Indic digits")
-        << "fileid" << QString::fromUtf8("\u0661\u0662\u0663\u0664\u0665\u0666\u0667\u0668\u0669") << false;
-    QTest::newRow("SR&ED code with dots") << "sred"
-                                          << "1.2.3.4" << true;
-    QTest::newRow("SR&ED code of digits") << "sred"
-                                          << "1234567" << true;
-    QTest::newRow("SR&ED code too short") << "sred"
-                                          << "12.34" << false;
-    QTest::newRow("date") << "date"
-                          << "20240131" << true;
-    QTest::newRow("date, only eight characters read") << "date"
-                                                      << "2024130199" << true;
-    QTest::newRow("date, seven digits") << "date"
-                                        << "2024013" << false;
-    QTest::newRow("all numbers, empty") << "number"
-                                        << "" << true;
-    QTest::newRow("all numbers") << "number"
-                                 << "0123" << true;
-    QTest::newRow("all numbers, space") << "number"
-                                        << "12 3" << false;
+        << Shape::FileId << QString::fromUtf8("\u0661\u0662\u0663\u0664\u0665\u0666\u0667\u0668\u0669") << false;
+    QTest::newRow("SR&ED code with dots") << Shape::SredCode << "1.2.3.4" << true;
+    QTest::newRow("SR&ED code of digits") << Shape::SredCode << "1234567" << true;
+    QTest::newRow("SR&ED code too short") << Shape::SredCode << "12.34" << false;
+    QTest::newRow("date") << Shape::Date << "20240131" << true;
+    QTest::newRow("date, only eight characters read") << Shape::Date << "2024130199" << true;
+    QTest::newRow("date, seven digits") << Shape::Date << "2024013" << false;
+    QTest::newRow("all numbers, empty") << Shape::Digits << "" << true;
+    QTest::newRow("all numbers") << Shape::Digits << "0123" << true;
+    QTest::newRow("all numbers, space") << Shape::Digits << "12 3" << false;
 }
 
 void tst_IdChecks::identifierShapes()
 {
-    QFETCH(QString, kind);
+    QFETCH(Shape, shape);
     QFETCH(QString, text);
     QFETCH(bool, accepted);
     QByteArray const bytes = text.toUtf8();
-    if (kind == QLatin1String("trust")) {
+    switch (shape) {
+    case Shape::Trust:
         QCOMPARE(CheckTrustNumber(bytes.constData(), nullptr), accepted);
-    } else if (kind == QLatin1String("shelter")) {
+        break;
+    case Shape::TaxShelter:
         QCOMPARE(CheckTaxShelterNumber(text), accepted);
-    } else if (kind == QLatin1String("fileid")) {
+        break;
+    case Shape::FileId:
         QCOMPARE(CheckPartnershipIDOrFileID(text), accepted);
         QCOMPARE(CheckPartnershipNumber(text), accepted);
-    } else if (kind == QLatin1String("sred")) {
+        break;
+    case Shape::SredCode:
         QCOMPARE(CheckSREDFieldCode(bytes.constData()), accepted);
-    } else if (kind == QLatin1String("date")) {
+        break;
+    case Shape::Date:
         QCOMPARE(CheckDate(bytes.constData()), accepted);
-    } else {
+        break;
+    case Shape::Digits:
         QCOMPARE(CheckIsAllNumber(bytes.constData()), accepted);
+        break;
     }
 }
 

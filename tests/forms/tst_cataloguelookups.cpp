@@ -61,6 +61,7 @@ void tst_CatalogueLookups::provinceRanges()
     QFETCH(bool, supported);
     QFETCH(bool, usState);
     QCOMPARE(isCanProvince(value), canadian);
+    QCOMPARE(isCanProv(value), canadian);
     QCOMPARE(IsProvinceSupported(value), supported);
     QCOMPARE(isUsaState(value), usState);
 }
