@@ -25,3 +25,25 @@ show tax --bracket 0:0.145:0 --bracket 57375:0.205:8319.38 80000
 
 echo "\$ sample-return build/run/sample-return-output"
 build/run/examples/sample-return/sample-return build/run/sample-return-output
+
+# The pictures are drawn off screen; Qt's notes about the missing display go
+# to a log that is shown only when a step fails.
+quiet() {
+    local status=0
+    "$@" 2>build/run/offscreen.log || status=$?
+    if [ "$status" -ne 0 ]; then
+        cat build/run/offscreen.log >&2
+        echo "(exit code $status)"
+    fi
+}
+
+echo
+echo "\$ sample-return --gui --grab build/run/gallery/sample-window.png"
+mkdir -p build/run/gallery
+quiet build/run/examples/sample-return/sample-return --gui --grab build/run/gallery/sample-window.png
+echo "Sample return window: $PWD/build/run/gallery/sample-window.png"
+
+echo
+echo "\$ libcontrol gallery build/run/gallery"
+quiet "$tool" gallery build/run/gallery
+echo "Gallery: $PWD/build/run/gallery/index.html"

@@ -1,6 +1,8 @@
 // A small 2025 return built on LibControl's public API: it calculates,
-// validates, saves and reloads the return, and writes its outputs.
+// validates, saves and reloads the return, and writes its outputs; with
+// --gui it is a desktop application instead.
 
+#include "samplegui.h"
 #include "samplereturn.h"
 
 #include <LibControl/common/utilities.h>
@@ -40,6 +42,9 @@ bool wellFormed(QString const &path)
 
 int main(int argc, char *argv[])
 {
+    if (sampleGuiWanted(argc, argv))
+        return runSampleGui(argc, argv);
+
     QCoreApplication app(argc, argv);
     QTextStream out(stdout);
     QString const folder = app.arguments().value(1, QStringLiteral("sample-return-output"));

@@ -13,6 +13,13 @@ constexpr double BasicPersonalAmount = 16129.0;
 constexpr double CaregiverBase = 28798.0;
 constexpr double CaregiverMax = 8601.0;
 constexpr double LowestRatePercent = 14.5;
+constexpr double AgeAmountMax = 9028.0;
+constexpr double AgeAmountThreshold = 45522.0;
+constexpr double AgeAmountRate = 0.15;
+constexpr double DisabilityBase = 10138.0;
+constexpr double DisabilitySupplementMax = 5914.0;
+constexpr double DisabilityCareExpenseBase = 3464.0;
+constexpr int TaxYear2025 = 2025;
 constexpr unsigned int First = FIELD_VERSION_FIRST;
 
 } // namespace
@@ -56,6 +63,8 @@ SampleT1Form::SampleT1Form(STRUCT_TAX_STAIRS_JURISDICTION const *schedule)
     , fld_48500_Balance(0.0, 48500)
     , fld_SignedOn(90, FIELD_ATTR_CLEAR_DATE_NEXTYEAR)
     , fld_LastCalculated(FIELD_ATTR_NONE)
+    , fld_30100_Age(0.0, 30100)
+    , fld_31600_Disability(0.0, 31600)
     , m_schedule(schedule)
 {
     add(fld_FirstName, "fld_FirstName");
@@ -95,6 +104,8 @@ SampleT1Form::SampleT1Form(STRUCT_TAX_STAIRS_JURISDICTION const *schedule)
     add(fld_48500_Balance, "fld_48500");
     add(fld_SignedOn, "fld_SignedOn");
     add(fld_LastCalculated, "fld_LastCalculated");
+    add(fld_30100_Age, "fld_30100");
+    add(fld_31600_Disability, "fld_31600");
 
     // Earlier releases called the RRSP line by its old number.
     addFieldOldName("fld_20800", "fld_208");
@@ -105,6 +116,10 @@ SampleT1Form::SampleT1Form(STRUCT_TAX_STAIRS_JURISDICTION const *schedule)
     ws30450.SetParameter(CaregiverBase, CaregiverMax, 0, 0.0);
     m_listWorksheets.push_back(&ws30400);
     m_listWorksheets.push_back(&ws30450);
+    ws30100.m_strName = "WS30100";
+    ws58440.m_strName = "WS58440";
+    m_listWorksheets.push_back(&ws30100);
+    m_listWorksheets.push_back(&ws58440);
 }
 
 void SampleT1Form::add(CField &field, char const *name)
@@ -121,15 +136,29 @@ void SampleT1Form::calculateIncome()
     fld_26000_TaxableIncome = fld_23600_NetIncome.m_dValue;
 }
 
+void SampleT1Form::prepareOwnCreditWorksheets()
+{
+    int const age = fld_BirthDate.m_date.isValid() ? TaxYear2025 - fld_BirthDate.m_date.year() : 0;
+    ws30100.SetAgeParameter(AgeAmountMax, AgeAmountThreshold, AgeAmountRate, 365.0, 365.0, age >= 65,
+                            fld_23600_NetIncome.m_dValue);
+    // The supplement is only for a taxpayer under 18 at the end of the year.
+    ws58440.SetF5844Parameter(DisabilitySupplementMax, DisabilityCareExpenseBase, age > 0 && age < 18);
+}
+
 void SampleT1Form::calculateCredits()
 {
+    prepareOwnCreditWorksheets();
     for (CWSBaseData *worksheet : m_listWorksheets)
         worksheet->Calculate();
     fld_30000_BasicPersonal = BasicPersonalAmount;
     fld_30400_EligibleDependant = ws30400.AmountClaim.m_dValue;
     fld_30450_Caregiver = ws30450.AmountClaim.m_dValue;
-    fld_33500_TotalCredits = fld_30000_BasicPersonal.m_dValue + fld_30400_EligibleDependant.m_dValue
-                             + fld_30450_Caregiver.m_dValue + fld_30800_CPP.m_dValue + fld_31200_EI.m_dValue
+    fld_30100_Age = ws30100.fld_ws5808_7.m_dValue;
+    fld_31600_Disability =
+        ws58440.fld_ws5844_claim.m_nValue ? DisabilityBase + ws58440.fld_ws5844_5.m_dValue : 0.0;
+    fld_33500_TotalCredits = fld_30000_BasicPersonal.m_dValue + fld_30100_Age.m_dValue
+                             + fld_30400_EligibleDependant.m_dValue + fld_30450_Caregiver.m_dValue
+                             + fld_30800_CPP.m_dValue + fld_31200_EI.m_dValue + fld_31600_Disability.m_dValue
                              + fld_33099_Medical.m_dValue;
     fld_33800_CreditAmount = fld_33500_TotalCredits.m_dValue * fld_CreditRate.m_dValue / 100.0;
 }
@@ -170,8 +199,9 @@ int SampleT1Form::WriteNetfile(unsigned char, NetfileGenObjParamStru &param)
     // Whole-dollar lines: a zero amount is not filed.
     for (CFloatField *field : {&fld_10100_Employment, &fld_11500_Pension, &fld_12000_Dividends, &fld_12100_Interest,
                                &fld_15000_TotalIncome, &fld_20800_RRSP, &fld_23600_NetIncome,
-                               &fld_26000_TaxableIncome, &fld_30000_BasicPersonal, &fld_30400_EligibleDependant,
-                               &fld_30450_Caregiver, &fld_33099_Medical, &fld_33500_TotalCredits})
+                               &fld_26000_TaxableIncome, &fld_30000_BasicPersonal, &fld_30100_Age,
+                               &fld_30400_EligibleDependant, &fld_30450_Caregiver, &fld_31600_Disability,
+                               &fld_33099_Medical, &fld_33500_TotalCredits})
         lines += NETFILE_DOLLAR_FIELD_Func(0, *field, param);
     // Dollars-and-cents lines for the tax itself.
     for (CFloatField *field : {&fld_30800_CPP, &fld_31200_EI, &fld_33800_CreditAmount, &fld_40400_FederalTax,

@@ -8,6 +8,7 @@
 #include <LibControl/fields/stringfield.h>
 #include <LibControl/forms/taxformdata.h>
 #include <LibControl/worksheets/DepWorkSheetData.h>
+#include <LibControl/worksheets/NonDepWorkSheetData.h>
 #include <LibControl/worksheets/taxstairs.h>
 
 /**
@@ -72,14 +73,22 @@ public:
     CDateField fld_SignedOn;
     CDateTimeField fld_LastCalculated;
 
+    // Own credits fed by worksheets; appended after the older lines so
+    // earlier files read unchanged.
+    CFloatField fld_30100_Age;
+    CFloatField fld_31600_Disability;
+
     // Worksheets feeding the credit lines; listed, not owned, by the base.
     CWSDepAmtData ws30400;
     CWSCaregiverAmtData ws30450;
+    CWSAgeAmtData ws30100;
+    CWSDisabilityAmtData ws58440;
 
 private:
     void add(CField &field, char const *name);
     void calculateIncome();
     void calculateCredits();
+    void prepareOwnCreditWorksheets();
 
     STRUCT_TAX_STAIRS_JURISDICTION const *m_schedule;
 };

@@ -32,6 +32,9 @@ int configCommand(Context &ctx);
 int serveCommand(Context &ctx);
 int httpCommand(Context &ctx);
 
+// Gallery
+int galleryCommand(Context &ctx);
+
 
 
 } // namespace Tool

@@ -3,7 +3,9 @@
 
 #include "commands.h"
 
-#include <QCoreApplication>
+#include <QApplication>
+
+#include <memory>
 
 #include <cstring>
 
@@ -52,6 +54,12 @@ Command const Commands[] = {
     {"http", "get|post URL [NAME=VALUE...]", "send a GET or a form POST and print the reply body (60 s limit)",
      Tool::httpCommand},
 
+    // Gallery
+    {"gallery", "DIR",
+     "render every field widget in its states, a tax page, the worksheet pages and the dialogs to DIR/*.png, "
+     "with DIR/index.html showing them all (off screen unless QT_QPA_PLATFORM is set)",
+     Tool::galleryCommand},
+
 
 };
 
@@ -65,11 +73,23 @@ void printHelp(QTextStream &out)
     out << "\nlibcontrol --help shows this list.\n";
 }
 
+// Only the gallery draws; every other command runs without a display.
+std::unique_ptr<QCoreApplication> makeApplication(int &argc, char *argv[])
+{
+    if (argc > 1 && std::strcmp(argv[1], "gallery") == 0) {
+        if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+            qputenv("QT_QPA_PLATFORM", "offscreen");
+        return std::make_unique<QApplication>(argc, argv);
+    }
+    return std::make_unique<QCoreApplication>(argc, argv);
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
 {
-    QCoreApplication app(argc, argv);
+    std::unique_ptr<QCoreApplication> const application = makeApplication(argc, argv);
+    QCoreApplication &app = *application;
     QTextStream out(stdout);
     QTextStream err(stderr);
     QStringList args = app.arguments().mid(1);

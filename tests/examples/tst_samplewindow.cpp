@@ -1,0 +1,229 @@
+// The sample return's window: lines carried from another form open it,
+// edits recalculate every page, and what is saved opens again as it was.
+
+#include "samplepage.h"
+#include "samplereturn.h"
+#include "samplewindow.h"
+
+#include <LibControl/forms/taxformtype.h>
+#include <LibControl/widgets/doublelineedit.h>
+
+#include <QImage>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <set>
+
+namespace {
+
+std::unique_ptr<SampleReturn> exampleReturn()
+{
+    auto ret = std::make_unique<SampleReturn>();
+    ret->fillExample();
+    ret->t1.Calculate();
+    return ret;
+}
+
+DoubleLineEdit *amount(SampleWindow &window, int form, QString const &name)
+{
+    BaseTaxPage *page = window.page(form);
+    return page ? page->findChild<DoubleLineEdit *>(name) : nullptr;
+}
+
+// Delivers the worksheet request to the page, then whatever the page posts.
+void deliverPostedEvents()
+{
+    QCoreApplication::processEvents();
+    QCoreApplication::processEvents();
+}
+
+void typeAmount(DoubleLineEdit *edit, QString const &text)
+{
+    edit->clear();
+    QTest::keyClicks(edit, text);
+    QTest::keyClick(edit, Qt::Key_Return);
+}
+
+int distinctColours(QImage const &image)
+{
+    std::set<QRgb> colours;
+    for (int y = 0; y < image.height(); y += 4) {
+        for (int x = 0; x < image.width(); x += 4)
+            colours.insert(image.pixel(x, y));
+    }
+    return int(colours.size());
+}
+
+} // namespace
+
+class tst_SampleWindow : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void forwardLineOpensItsForm_data();
+    void forwardLineOpensItsForm();
+    void editRecalculatesEveryPage_data();
+    void editRecalculatesEveryPage();
+    void openShowsSavedReturn_data();
+    void openShowsSavedReturn();
+    void grabWritesPicture_data();
+    void grabWritesPicture();
+};
+
+void tst_SampleWindow::initTestCase()
+{
+    CStringField::setLargeSizeSerializeOption(SampleReturn::ArchiveVersion, 256);
+}
+
+void tst_SampleWindow::forwardLineOpensItsForm_data()
+{
+    QTest::addColumn<int>("startForm");
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<bool>("byKey");
+    QTest::addColumn<int>("shownForm");
+    QTest::newRow("click on dividends opens schedule 4")
+        << int(FORM_T1GENERAL) << "fld_12000" << false << int(FORM_WS_SCHEDULE4);
+    QTest::newRow("key on interest opens schedule 4")
+        << int(FORM_T1GENERAL) << "fld_12100" << true << int(FORM_WS_SCHEDULE4);
+    QTest::newRow("total income on schedule 4 returns to the T1")
+        << int(FORM_WS_SCHEDULE4) << "fld_15000" << false << int(FORM_T1GENERAL);
+    QTest::newRow("click on an input line stays") << int(FORM_T1GENERAL) << "fld_10100" << false << int(FORM_T1GENERAL);
+    QTest::newRow("click on a computed line stays")
+        << int(FORM_T1GENERAL) << "fld_15000" << false << int(FORM_T1GENERAL);
+}
+
+void tst_SampleWindow::forwardLineOpensItsForm()
+{
+    QFETCH(int, startForm);
+    QFETCH(QString, line);
+    QFETCH(bool, byKey);
+    QFETCH(int, shownForm);
+
+    SampleWindow window(exampleReturn());
+    QVERIFY(window.showForm(startForm));
+    DoubleLineEdit *edit = amount(window, startForm, line);
+    QVERIFY(edit);
+    if (byKey)
+        QTest::keyClick(edit, Qt::Key_5);
+    else
+        QTest::mouseClick(edit, Qt::LeftButton);
+    deliverPostedEvents();
+    QCOMPARE(window.currentForm(), shownForm);
+}
+
+void tst_SampleWindow::editRecalculatesEveryPage_data()
+{
+    QTest::addColumn<int>("form");
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<int>("shownForm");
+    QTest::addColumn<QString>("shownLine");
+    QTest::addColumn<QString>("expected");
+    // The example: employment 78450.00, dividends 1150.00, interest 312.48, RRSP 6500.00.
+    QTest::newRow("employment income raises total income") << int(FORM_T1GENERAL) << "fld_10100"
+                                                           << "80000" << int(FORM_T1GENERAL) << "fld_15000"
+                                                           << "81462.48";
+    QTest::newRow("RRSP deduction lowers net income") << int(FORM_T1GENERAL) << "fld_20800"
+                                                      << "10000" << int(FORM_T1GENERAL) << "fld_23600"
+                                                      << "69912.48";
+    QTest::newRow("schedule dividends reach the T1 line") << int(FORM_WS_SCHEDULE4) << "fld_12000"
+                                                          << "2000" << int(FORM_T1GENERAL) << "fld_12000"
+                                                          << "2000.00";
+    QTest::newRow("schedule interest reaches the T1 total") << int(FORM_WS_SCHEDULE4) << "fld_12100"
+                                                            << "0" << int(FORM_T1GENERAL) << "fld_15000"
+                                                            << "79600.00";
+    QTest::newRow("T1 total shows on the schedule") << int(FORM_T1GENERAL) << "fld_10100"
+                                                    << "0" << int(FORM_WS_SCHEDULE4) << "fld_15000"
+                                                    << "1462.48";
+}
+
+void tst_SampleWindow::editRecalculatesEveryPage()
+{
+    QFETCH(int, form);
+    QFETCH(QString, line);
+    QFETCH(QString, typed);
+    QFETCH(int, shownForm);
+    QFETCH(QString, shownLine);
+    QFETCH(QString, expected);
+
+    SampleWindow window(exampleReturn());
+    window.showForm(form);
+    DoubleLineEdit *edit = amount(window, form, line);
+    QVERIFY(edit);
+    typeAmount(edit, typed);
+    DoubleLineEdit *shown = amount(window, shownForm, shownLine);
+    QVERIFY(shown);
+    QCOMPARE(shown->text(), expected);
+}
+
+void tst_SampleWindow::openShowsSavedReturn_data()
+{
+    QTest::addColumn<QByteArray>("damage");
+    QTest::addColumn<bool>("opened");
+    QTest::addColumn<QString>("employment");
+    QTest::newRow("saved file") << QByteArray() << true << "81234.56";
+    QTest::newRow("truncated file keeps the shown return") << QByteArray("\x04\x03") << false << "78450.00";
+}
+
+void tst_SampleWindow::openShowsSavedReturn()
+{
+    QFETCH(QByteArray, damage);
+    QFETCH(bool, opened);
+    QFETCH(QString, employment);
+
+    QTemporaryDir dir;
+    QString const path = dir.filePath(QStringLiteral("edited.r25"));
+    {
+        SampleWindow editor(exampleReturn());
+        typeAmount(amount(editor, FORM_T1GENERAL, QStringLiteral("fld_10100")), QStringLiteral("81234.56"));
+        QVERIFY(editor.saveFile(path));
+    }
+    if (!damage.isEmpty()) {
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        file.write(damage);
+    }
+
+    SampleWindow window(exampleReturn());
+    QString error;
+    QCOMPARE(window.openFile(path, &error), opened);
+    QCOMPARE(error.isEmpty(), opened);
+    QCOMPARE(amount(window, FORM_T1GENERAL, QStringLiteral("fld_10100"))->text(), employment);
+    QCOMPARE(window.windowTitle().contains(QLatin1String("edited.r25")), opened);
+}
+
+void tst_SampleWindow::grabWritesPicture_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("exitCode");
+    QTest::newRow("example return") << QStringList() << 0;
+    QTest::newRow("schedule page") << QStringList { QStringLiteral("--form"), QStringLiteral("s4") } << 0;
+    QTest::newRow("unknown form") << QStringList { QStringLiteral("--form"), QStringLiteral("s9") } << 2;
+}
+
+void tst_SampleWindow::grabWritesPicture()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(int, exitCode);
+
+    QTemporaryDir dir;
+    QString const picture = dir.filePath(QStringLiteral("window.png"));
+    QProcess sample;
+    sample.start(QStringLiteral(SAMPLE_RETURN_EXE),
+        QStringList { QStringLiteral("--gui"), QStringLiteral("--grab"), picture } + arguments);
+    QVERIFY(sample.waitForFinished(60000));
+    QCOMPARE(sample.exitCode(), exitCode);
+    QImage const image(picture);
+    QCOMPARE(image.isNull(), exitCode != 0);
+    if (exitCode != 0)
+        return;
+    QCOMPARE(image.size(), QSize(1200, 800));
+    // A blank or single-colour picture means nothing was drawn.
+    QVERIFY2(distinctColours(image) > 16, qPrintable(QString::number(distinctColours(image))));
+}
+
+QTEST_MAIN(tst_SampleWindow)
+#include "tst_samplewindow.moc"
