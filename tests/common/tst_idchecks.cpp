@@ -57,7 +57,6 @@ private Q_SLOTS:
     void identifierShapes();
     void nisaPin_data();
     void nisaPin();
-    void libraryBusinessNumberExceptions();
 };
 
 void tst_IdChecks::luhnCheckDigit_data()
@@ -278,12 +277,6 @@ void tst_IdChecks::nisaPin()
     QFETCH(QByteArray, pin);
     QFETCH(bool, accepted);
     QCOMPARE(CheckNISAPIN(cText(pin)), accepted);
-}
-
-void tst_IdChecks::libraryBusinessNumberExceptions()
-{
-    QCOMPARE(QByteArray(s_Allowed_BusinessNumbers[0]), QByteArray("NR"));
-    QCOMPARE(s_Allowed_BusinessNumbers[1], nullptr);
 }
 
 QTEST_GUILESS_MAIN(tst_IdChecks)

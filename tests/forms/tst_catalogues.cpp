@@ -353,9 +353,6 @@ void tst_Catalogues::countries()
     };
     QCOMPARE(row(1), (QStringList { "Canada", "CA", "CAN" }));
     QCOMPARE(row(2), (QStringList { "United States of America", "US", "USA" }));
-    QCOMPARE(row(3).first(), QStringLiteral("Brazil"));
-    QCOMPARE(row(4).first(), QStringLiteral("China"));
-    QCOMPARE(row(5).first(), QStringLiteral("France"));
     QCOMPARE(row(116), (QStringList { "Nigeria", "NG", "NGA" }));
     QCOMPARE(row(117), (QStringList { "Other Country", "OT", "OTH" }));
     QSet<QString> names, codes2, codes3;
@@ -379,9 +376,6 @@ void tst_Catalogues::usStates()
     };
     QCOMPARE(row(0), (QStringList { "Choose A State", "N/A" }));
     QCOMPARE(row(1), (QStringList { "Alaska", "AK" }));
-    QCOMPARE(row(2), (QStringList { "Alabama", "AL" }));
-    QCOMPARE(row(3), (QStringList { "Arkansas", "AR" }));
-    QCOMPARE(row(54), (QStringList { "Virgin Islands", "VI" }));
     QCOMPARE(row(55), (QStringList { "Vemont", "VT" }));
     QCOMPARE(row(59), (QStringList { "Wyoming", "WY" }));
     for (int i = 2; i <= 59; ++i)
