@@ -144,8 +144,7 @@ void CWSInfirmDepAmtData::SetParameterAndF5816Info(double base, double max, int 
 int CWSInfirmDepAmtData::Calculate()
 {
     bool const spouse = DepIdx.m_nValue == SpouseOrEligibleDependant;
-    std::optional<double> const claim =
-        line3LessLine4(*this, spouse ? DepNetInc.m_dValue : selectedNetIncome(), spouse);
+    auto const claim = line3LessLine4(*this, spouse ? DepNetInc.m_dValue : selectedNetIncome(), spouse);
     if (!claim)
         return 0;
     AmountClaim = *claim;
