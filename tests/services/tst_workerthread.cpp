@@ -73,10 +73,10 @@ void tst_WorkerThread::progressUntilCancelled_data()
     QTest::addColumn<int>("cancelDuringJob");
     QTest::addColumn<QList<int>>("progress");
 
-    QTest::newRow("full run reports 0 to 80") << false << 0 << QList<int>{0, 20, 40, 60, 80};
-    QTest::newRow("cancelled before start runs no step") << true << 0 << QList<int>{};
+    QTest::newRow("full run reports 0 to 80") << false << 0 << QList<int> { 0, 20, 40, 60, 80 };
+    QTest::newRow("cancelled before start runs no step") << true << 0 << QList<int> {};
     // The step that saw the cancel still completes and reports.
-    QTest::newRow("cancel takes effect before the next step") << false << 2 << QList<int>{0, 20};
+    QTest::newRow("cancel takes effect before the next step") << false << 2 << QList<int> { 0, 20 };
 }
 
 void tst_WorkerThread::progressUntilCancelled()
