@@ -28,8 +28,7 @@ public:
         : QObject(page)
         , m_page(page)
         , m_heading(heading)
-    {
-    }
+    { }
 
     bool eventFilter(QObject *watched, QEvent *event) override
     {
@@ -63,8 +62,8 @@ void setUpDependantCombo(PpgWizardPage *page, StyledComboBox *box, const Dependa
     if (dependants)
         dependants->FillComboBox(box, nullptr);
     box->setFocusPolicy(Qt::StrongFocus);
-    QObject::connect(box, QOverload<int>::of(&QComboBox::currentIndexChanged), page,
-                     &PpgWizardPage::onCmbCurIndexChanged);
+    QObject::connect(
+        box, QOverload<int>::of(&QComboBox::currentIndexChanged), page, &PpgWizardPage::onCmbCurIndexChanged);
 }
 
 void showHeadingOutsideWizard(QWizardPage *page, QLabel *heading)

@@ -7,11 +7,9 @@
 
 using namespace LibControl::detail;
 
-WS58440_DisabilitySelf_tab1::WS58440_DisabilitySelf_tab1(CWSDisabilityAmtData *ws, CTaxData_Form *form,
-                                                         QWidget *parent)
+WS58440_DisabilitySelf_tab1::WS58440_DisabilitySelf_tab1(CWSDisabilityAmtData *ws, CTaxData_Form *form, QWidget *parent)
     : PpgWizardPage(ws, form, parent)
     , m_ui(new Ui::WS58440_DisabilitySelf_tab1)
-    , m_ws(ws)
 {
     m_ui->setupUi(this);
     showHeadingOutsideWizard(this, m_ui->lblHeading);
@@ -29,10 +27,3 @@ WS58440_DisabilitySelf_tab1::WS58440_DisabilitySelf_tab1(CWSDisabilityAmtData *w
 }
 
 WS58440_DisabilitySelf_tab1::~WS58440_DisabilitySelf_tab1() = default;
-
-void WS58440_DisabilitySelf_tab1::GetDataFromDoc()
-{
-    if (m_ws)
-        m_ws->Calculate();
-    PpgWizardPage::GetDataFromDoc();
-}

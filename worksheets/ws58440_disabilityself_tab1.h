@@ -23,15 +23,12 @@ class LIBCONTROL_EXPORT WS58440_DisabilitySelf_tab1 : public PpgWizardPage
 {
     Q_OBJECT
 public:
+    /** Builds the layout and binds it to `ws`; neither `ws` nor `form` is owned. */
     WS58440_DisabilitySelf_tab1(CWSDisabilityAmtData *ws, CTaxData_Form *form, QWidget *parent);
     ~WS58440_DisabilitySelf_tab1() override;
 
-    /** Recalculates the worksheet, then loads every widget. */
-    void GetDataFromDoc() override;
-
 private:
     std::unique_ptr<Ui::WS58440_DisabilitySelf_tab1> const m_ui;
-    CWSDisabilityAmtData *const m_ws;
 };
 
 #endif

@@ -7,14 +7,13 @@
 
 using namespace LibControl::detail;
 
-WS58480_DisabilityDepTransfer_tab1::WS58480_DisabilityDepTransfer_tab1(CWSDisabilityTransferAmtData *ws,
-                                                                       CTaxData_Form *form, QWidget *parent)
+WS58480_DisabilityDepTransfer_tab1::WS58480_DisabilityDepTransfer_tab1(
+    CWSDisabilityTransferAmtData *ws, CTaxData_Form *form, QWidget *parent)
     : PpgWizardPage(ws, form, parent)
     , m_ui(new Ui::WS58480_DisabilityDepTransfer_tab1)
-    , m_ws(ws)
 {
     m_ui->setupUi(this);
-    setExtraSize(0, 60);
+    setExtraSize(40, 60);
     if (ws) {
         bindField(m_ui->DepIdx, &ws->DepIdx);
         bindField(m_ui->fld_BaseAmount, &ws->fld_BaseAmount);
@@ -34,17 +33,11 @@ WS58480_DisabilityDepTransfer_tab1::WS58480_DisabilityDepTransfer_tab1(CWSDisabi
         bindField(m_ui->fld_claim, &ws->fld_claim);
     }
     setUpDependantCombo(this, m_ui->DepIdx, ws ? ws->GetDepInfo() : nullptr);
-    connectAmounts(this, { m_ui->fld_BaseAmount, m_ui->fld_Line2Max, m_ui->fld_Line3ChldCareExp,
-                           m_ui->fld_Line4ExpBase, m_ui->fld_Line6AmtUnder18, m_ui->fld_2, m_ui->fld_Line8,
-                           m_ui->fld_4, m_ui->fld_5, m_ui->DepTaxInc, m_ui->fld_7, m_ui->fld_claim });
+    connectAmounts(this,
+        { m_ui->fld_BaseAmount, m_ui->fld_Line2Max, m_ui->fld_Line3ChldCareExp, m_ui->fld_Line4ExpBase,
+            m_ui->fld_Line6AmtUnder18, m_ui->fld_2, m_ui->fld_Line8, m_ui->fld_4, m_ui->fld_5, m_ui->DepTaxInc,
+            m_ui->fld_7, m_ui->fld_claim });
     connectCheckBox(this, m_ui->fld_overwrite);
 }
 
 WS58480_DisabilityDepTransfer_tab1::~WS58480_DisabilityDepTransfer_tab1() = default;
-
-void WS58480_DisabilityDepTransfer_tab1::GetDataFromDoc()
-{
-    if (m_ws)
-        m_ws->Calculate();
-    PpgWizardPage::GetDataFromDoc();
-}

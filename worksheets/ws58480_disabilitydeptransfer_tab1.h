@@ -25,15 +25,12 @@ class LIBCONTROL_EXPORT WS58480_DisabilityDepTransfer_tab1 : public PpgWizardPag
 {
     Q_OBJECT
 public:
+    /** Builds the layout and binds it to `ws`; neither `ws` nor `form` is owned. */
     WS58480_DisabilityDepTransfer_tab1(CWSDisabilityTransferAmtData *ws, CTaxData_Form *form, QWidget *parent);
     ~WS58480_DisabilityDepTransfer_tab1() override;
 
-    /** Recalculates the worksheet, then loads every widget. */
-    void GetDataFromDoc() override;
-
 private:
     std::unique_ptr<Ui::WS58480_DisabilityDepTransfer_tab1> const m_ui;
-    CWSDisabilityTransferAmtData *const m_ws;
 };
 
 #endif

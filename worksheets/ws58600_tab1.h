@@ -22,12 +22,12 @@ class LIBCONTROL_EXPORT WS58600_tab1 : public BaseWorksheetPage
 {
     Q_OBJECT
 public:
+    /** Builds the layout and binds it to `ws`; `owner` recalculates before every reload and may be null. */
     WS58600_tab1(DataWS58600 *ws, CTaxData_Form *form, BaseTaxPage *owner);
     ~WS58600_tab1() override;
 
 private:
     std::unique_ptr<Ui::WS58600_tab1> const m_ui;
-
 };
 
 #endif

@@ -21,8 +21,9 @@ WSAdoptionExpense_tab1::WSAdoptionExpense_tab1(DataWSAdoptionExpense *ws, CTaxDa
         bindField(m_ui->fld_Adopt_ExpAmt_5, &ws->fld_Adopt_ExpAmt_5);
         bindField(m_ui->fld_Adopt_ExpAmt_6, &ws->fld_Adopt_ExpAmt_6);
     }
-    connectAmounts(this, { m_ui->fld_Adopt_ExpAmt_1, m_ui->fld_Adopt_ExpAmt_2, m_ui->fld_Adopt_ExpAmt_3,
-                           m_ui->fld_Adopt_ExpAmt_4, m_ui->fld_Adopt_ExpAmt_5, m_ui->fld_Adopt_ExpAmt_6 });
+    connectAmounts(this,
+        { m_ui->fld_Adopt_ExpAmt_1, m_ui->fld_Adopt_ExpAmt_2, m_ui->fld_Adopt_ExpAmt_3, m_ui->fld_Adopt_ExpAmt_4,
+            m_ui->fld_Adopt_ExpAmt_5, m_ui->fld_Adopt_ExpAmt_6 });
 }
 
 WSAdoptionExpense_tab1::~WSAdoptionExpense_tab1() = default;

@@ -21,12 +21,12 @@ class LIBCONTROL_EXPORT WSAdoptionExpense_tab1 : public BaseWorksheetPage
 {
     Q_OBJECT
 public:
+    /** Builds the layout and binds it to `ws`; `owner` recalculates before every reload and may be null. */
     WSAdoptionExpense_tab1(DataWSAdoptionExpense *ws, CTaxData_Form *form, BaseTaxPage *owner);
     ~WSAdoptionExpense_tab1() override;
 
 private:
     std::unique_ptr<Ui::WSAdoptionExpense_tab1> const m_ui;
-
 };
 
 #endif

@@ -22,12 +22,12 @@ class LIBCONTROL_EXPORT WSAgeAmount_tab1 : public PpgWizardPage
 {
     Q_OBJECT
 public:
+    /** Builds the layout and binds it to `ws`; neither `ws` nor `form` is owned. */
     WSAgeAmount_tab1(CWSAgeAmtData *ws, CTaxData_Form *form, QWidget *parent);
     ~WSAgeAmount_tab1() override;
 
 private:
     std::unique_ptr<Ui::WSAgeAmount_tab1> const m_ui;
-
 };
 
 #endif

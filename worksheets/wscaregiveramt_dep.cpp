@@ -10,7 +10,6 @@ using namespace LibControl::detail;
 WSCaregiverAmt_Dep::WSCaregiverAmt_Dep(CWSCaregiverAmtData *ws, CTaxData_Form *form, QWidget *parent)
     : PpgWizardPage(ws, form, parent)
     , m_ui(new Ui::WSCaregiverAmt_Dep)
-    , m_ws(ws)
 {
     m_ui->setupUi(this);
     if (ws) {
@@ -28,10 +27,3 @@ WSCaregiverAmt_Dep::WSCaregiverAmt_Dep(CWSCaregiverAmtData *ws, CTaxData_Form *f
 }
 
 WSCaregiverAmt_Dep::~WSCaregiverAmt_Dep() = default;
-
-void WSCaregiverAmt_Dep::GetDataFromDoc()
-{
-    if (m_ws)
-        m_ws->Calculate();
-    PpgWizardPage::GetDataFromDoc();
-}

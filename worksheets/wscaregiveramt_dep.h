@@ -25,15 +25,12 @@ class LIBCONTROL_EXPORT WSCaregiverAmt_Dep : public PpgWizardPage
 {
     Q_OBJECT
 public:
+    /** Builds the layout and binds it to `ws`; neither `ws` nor `form` is owned. */
     WSCaregiverAmt_Dep(CWSCaregiverAmtData *ws, CTaxData_Form *form, QWidget *parent);
     ~WSCaregiverAmt_Dep() override;
 
-    /** Recalculates the worksheet, then loads every widget. */
-    void GetDataFromDoc() override;
-
 private:
     std::unique_ptr<Ui::WSCaregiverAmt_Dep> const m_ui;
-    CWSCaregiverAmtData *const m_ws;
 };
 
 #endif

@@ -25,6 +25,7 @@ class LIBCONTROL_EXPORT WSInfirmDepAmt_Dep : public BaseWorksheetPage
 {
     Q_OBJECT
 public:
+    /** Builds the layout and binds it to `ws`; `owner` recalculates before every reload and may be null. */
     WSInfirmDepAmt_Dep(CWSInfirmDepAmtData *ws, CTaxData_Form *form, BaseTaxPage *owner);
     ~WSInfirmDepAmt_Dep() override;
 

@@ -22,12 +22,12 @@ class LIBCONTROL_EXPORT WSInfirmDepAmt_SpouseDep : public PpgWizardPage
 {
     Q_OBJECT
 public:
+    /** Builds the layout and binds it to `ws`; neither `ws` nor `form` is owned. */
     WSInfirmDepAmt_SpouseDep(CWSInfirmDepAmtData *ws, CTaxData_Form *form, QWidget *parent);
     ~WSInfirmDepAmt_SpouseDep() override;
 
 private:
     std::unique_ptr<Ui::WSInfirmDepAmt_SpouseDep> const m_ui;
-
 };
 
 #endif
