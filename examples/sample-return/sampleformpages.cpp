@@ -6,6 +6,9 @@
 #include <LibControl/widgets/ct1combobox.h>
 #include <LibControl/widgets/styledcheckbox.h>
 #include <LibControl/widgets/styleddateedit.h>
+#include <LibControl/worksheets/ws58440_disabilityself_tab1.h>
+#include <LibControl/worksheets/wsageamount_tab1.h>
+#include <LibControl/worksheets/wscaregiveramt_dep.h>
 
 #include <iterator>
 
@@ -18,6 +21,7 @@ using TextRow = SampleFormPage::TextRow;
 // Worksheets behind the credit lines, by the identifier their edits carry.
 constexpr int AgeWorksheet = 30100;
 constexpr int DisabilityWorksheet = 58440;
+constexpr int CaregiverWorksheet = 58400;
 
 TextRow const IdentificationRows[] = {
     { "fld_FirstName", "First name", &SampleT1Form::fld_FirstName, 30 },
@@ -50,7 +54,8 @@ AmountRow const CreditRows[] = {
     { "fld_30100", "30100", "Age amount", &SampleT1Form::fld_30100_Age, Kind::Worksheet, AgeWorksheet },
     { "fld_30400", "30400", "Amount for an eligible dependant", &SampleT1Form::fld_30400_EligibleDependant,
         Kind::Computed, 0 },
-    { "fld_30450", "30450", "Canada caregiver amount", &SampleT1Form::fld_30450_Caregiver, Kind::Computed, 0 },
+    { "fld_30450", "30450", "Canada caregiver amount", &SampleT1Form::fld_30450_Caregiver, Kind::Worksheet,
+        CaregiverWorksheet },
     { "fld_30800", "30800", "CPP contributions", &SampleT1Form::fld_30800_CPP, Kind::Input, 0 },
     { "fld_31200", "31200", "EI premiums", &SampleT1Form::fld_31200_EI, Kind::Input, 0 },
     { "fld_31600", "31600", "Disability amount for self", &SampleT1Form::fld_31600_Disability, Kind::Worksheet,
@@ -174,8 +179,18 @@ PpgWizardPage *SampleT1Page::getWorksheetEditDlg(int id, long ctx, QString &titl
 {
     Q_UNUSED(ctx)
     Q_UNUSED(title)
-    Q_UNUSED(id)
-    return nullptr;
+    SampleT1Form *form = sampleForm();
+    // The wizard that shows the page takes it over.
+    switch (id) {
+    case AgeWorksheet:
+        return new WSAgeAmount_tab1(&form->ws30100, form, this);
+    case DisabilityWorksheet:
+        return new WS58440_DisabilitySelf_tab1(&form->ws58440, form, this);
+    case CaregiverWorksheet:
+        return new WSCaregiverAmt_Dep(&form->ws30450, form, this);
+    default:
+        return nullptr;
+    }
 }
 
 SampleSchedulePage::SampleSchedulePage(SampleT1Form *form, QWidget *parent)

@@ -87,7 +87,10 @@ public:
     ~SampleT1Page() override;
 
     void AssociateFormData() override;
-    /** The age-amount page for line 30100 and the disability page for 58440; none for the others. */
+    /**
+     * The worksheet page of a credit line: age amount (30100), caregiver
+     * (58400) and disability (58440); none for the others.
+     */
     PpgWizardPage *getWorksheetEditDlg(int id, long ctx, QString &title) override;
     using BaseTaxPage::getWorksheetEditDlg;
 

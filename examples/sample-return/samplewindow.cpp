@@ -124,7 +124,9 @@ BaseTaxPage *SampleWindow::page(int formId) const
 bool SampleWindow::event(QEvent *e)
 {
     if (e->type() == QEvent::Type(EventForwardEdit::Type)) {
-        showForm(static_cast<MyEvent *>(e)->data());
+        int const formId = static_cast<MyEvent *>(e)->data();
+        if (!showForm(formId))
+            statusBar()->showMessage(tr("This return has no page for form %1.").arg(formId));
         return true;
     }
     return QMainWindow::event(e);

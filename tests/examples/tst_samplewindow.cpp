@@ -1,6 +1,7 @@
 // The sample return's window: lines carried from another form open it,
 // edits recalculate every page, and what is saved opens again as it was.
 
+#include "../widgets/modalhelper.h"
 #include "samplepage.h"
 #include "samplereturn.h"
 #include "samplewindow.h"
@@ -8,6 +9,8 @@
 #include <LibControl/forms/taxformtype.h>
 #include <LibControl/widgets/doublelineedit.h>
 
+#include <QCheckBox>
+#include <QDialog>
 #include <QImage>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -65,6 +68,8 @@ private slots:
     void initTestCase();
     void forwardLineOpensItsForm_data();
     void forwardLineOpensItsForm();
+    void worksheetLineOpensItsWorksheet_data();
+    void worksheetLineOpensItsWorksheet();
     void editRecalculatesEveryPage_data();
     void editRecalculatesEveryPage();
     void openShowsSavedReturn_data();
@@ -112,6 +117,45 @@ void tst_SampleWindow::forwardLineOpensItsForm()
         QTest::mouseClick(edit, Qt::LeftButton);
     deliverPostedEvents();
     QCOMPARE(window.currentForm(), shownForm);
+}
+
+void tst_SampleWindow::worksheetLineOpensItsWorksheet_data()
+{
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<QString>("tick");
+    QTest::addColumn<QString>("expected");
+    // The example's taxpayer is 41, so no age amount and no disability supplement.
+    QTest::newRow("age amount") << "fld_30100" << "Federal Age Amount Worksheet" << QString() << "0.00";
+    QTest::newRow("caregiver for the infirm child") << "fld_30450" << "Caregiver Amount" << QString() << "8601.00";
+    QTest::newRow("disability left unclaimed")
+        << "fld_31600" << "Disability Amount for Self" << QString() << "0.00";
+    QTest::newRow("disability claimed on the worksheet")
+        << "fld_31600" << "Disability Amount for Self" << "fld_ws5844_claim" << "10138.00";
+}
+
+void tst_SampleWindow::worksheetLineOpensItsWorksheet()
+{
+    QFETCH(QString, line);
+    QFETCH(QString, title);
+    QFETCH(QString, tick);
+    QFETCH(QString, expected);
+
+    SampleWindow window(exampleReturn());
+    DoubleLineEdit *edit = amount(window, FORM_T1GENERAL, line);
+    QVERIFY(edit);
+    QString shownTitle;
+    whenModal([&](QWidget *modal) {
+        shownTitle = modal->windowTitle();
+        if (auto *box = tick.isEmpty() ? nullptr : modal->findChild<QCheckBox *>(tick))
+            box->setChecked(true);
+        static_cast<QDialog *>(modal)->accept();
+    });
+    QTest::mouseClick(edit, Qt::LeftButton);
+    deliverPostedEvents();
+    QCOMPARE(shownTitle, title);
+    QCOMPARE(edit->text(), expected);
+    QCOMPARE(window.currentForm(), int(FORM_T1GENERAL));
 }
 
 void tst_SampleWindow::editRecalculatesEveryPage_data()

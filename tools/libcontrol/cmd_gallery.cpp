@@ -25,6 +25,7 @@ int galleryCommand(Context &ctx)
     Gallery gallery(dir);
     shootWidgets(gallery);
     shootTaxPage(gallery);
+    shootWorksheetPages(gallery);
     shootDialogs(gallery);
     for (QString const &line : gallery.lines())
         ctx.out << line << '\n';

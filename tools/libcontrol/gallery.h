@@ -60,6 +60,8 @@ private:
 void shootWidgets(Gallery &gallery);
 /** A small tax page of every widget kind, bound to a form. */
 void shootTaxPage(Gallery &gallery);
+/** The worksheet pages, filled with worked figures, each in its wizard, and the multi-dependant dialog. */
+void shootWorksheetPages(Gallery &gallery);
 /** The dialogs and message boxes, shown but never run. */
 void shootDialogs(Gallery &gallery);
 
