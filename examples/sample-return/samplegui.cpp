@@ -77,28 +77,27 @@ bool grabWindow(SampleWindow &window, QString const &path)
     return window.grab().save(path, "PNG");
 }
 
-} // namespace
-
-bool sampleGuiWanted(int argc, char *argv[])
+// Looked up before any application object exists, so before Qt parses the line.
+bool hasOption(int argc, char *argv[], char const *option)
 {
     for (int i = 1; i < argc; ++i) {
-        if (std::strcmp(argv[i], "--gui") == 0)
+        if (std::strcmp(argv[i], option) == 0)
             return true;
     }
     return false;
 }
 
+} // namespace
+
+bool sampleGuiWanted(int argc, char *argv[])
+{
+    return hasOption(argc, argv, "--gui");
+}
+
 int runSampleGui(int argc, char *argv[])
 {
-    bool const offscreen = [argc, argv]() {
-        for (int i = 1; i < argc; ++i) {
-            if (std::strcmp(argv[i], "--grab") == 0)
-                return true;
-        }
-        return false;
-    }();
     // A picture needs no display.
-    if (offscreen && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+    if (hasOption(argc, argv, "--grab") && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     // Process-wide switch, as in the command-line run.
     CStringField::setLargeSizeSerializeOption(SampleReturn::ArchiveVersion, 256);
