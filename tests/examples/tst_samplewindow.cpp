@@ -76,6 +76,7 @@ private slots:
     void openShowsSavedReturn();
     void grabWritesPicture_data();
     void grabWritesPicture();
+    void scriptedOpenAndSaveKeepTheReturn();
 };
 
 void tst_SampleWindow::initTestCase()
@@ -126,12 +127,16 @@ void tst_SampleWindow::worksheetLineOpensItsWorksheet_data()
     QTest::addColumn<QString>("tick");
     QTest::addColumn<QString>("expected");
     // The example's taxpayer is 41, so no age amount and no disability supplement.
-    QTest::newRow("age amount") << "fld_30100" << "Federal Age Amount Worksheet" << QString() << "0.00";
-    QTest::newRow("caregiver for the infirm child") << "fld_30450" << "Caregiver Amount" << QString() << "8601.00";
-    QTest::newRow("disability left unclaimed")
-        << "fld_31600" << "Disability Amount for Self" << QString() << "0.00";
-    QTest::newRow("disability claimed on the worksheet")
-        << "fld_31600" << "Disability Amount for Self" << "fld_ws5844_claim" << "10138.00";
+    QTest::newRow("age amount") << "fld_30100"
+                                << "Federal Age Amount Worksheet" << QString() << "0.00";
+    QTest::newRow("caregiver for the infirm child") << "fld_30450"
+                                                    << "Caregiver Amount" << QString() << "8601.00";
+    QTest::newRow("disability left unclaimed") << "fld_31600"
+                                               << "Disability Amount for Self" << QString() << "0.00";
+    QTest::newRow("disability claimed on the worksheet") << "fld_31600"
+                                                         << "Disability Amount for Self"
+                                                         << "fld_ws5844_claim"
+                                                         << "10138.00";
 }
 
 void tst_SampleWindow::worksheetLineOpensItsWorksheet()
@@ -267,6 +272,34 @@ void tst_SampleWindow::grabWritesPicture()
     QCOMPARE(image.size(), QSize(1200, 800));
     // A blank or single-colour picture means nothing was drawn.
     QVERIFY2(distinctColours(image) > 16, qPrintable(QString::number(distinctColours(image))));
+}
+
+void tst_SampleWindow::scriptedOpenAndSaveKeepTheReturn()
+{
+    QTemporaryDir dir;
+    auto path = [&dir](char const *name) { return dir.filePath(QLatin1String(name)); };
+    auto run = [](QStringList const &arguments) {
+        QProcess sample;
+        sample.start(QStringLiteral(SAMPLE_RETURN_EXE), QStringList { QStringLiteral("--gui") } + arguments);
+        return sample.waitForFinished(60000) && sample.exitStatus() == QProcess::NormalExit ? sample.exitCode() : -1;
+    };
+    std::unique_ptr<SampleReturn> edited = exampleReturn();
+    edited->t1.fld_10100_Employment = 81234.56;
+    edited->t1.Calculate();
+    QVERIFY(edited->save(path("edited.r25")));
+
+    QCOMPARE(run({ "--open", path("edited.r25"), "--save", path("copy.r25"), "--grab", path("edited.png") }), 0);
+    QCOMPARE(run({ "--grab", path("example.png") }), 0);
+    QCOMPARE(run({ "--open", path("missing.r25"), "--grab", path("missing.png") }), 1);
+
+    QFile original(path("edited.r25"));
+    QFile copy(path("copy.r25"));
+    QVERIFY(original.open(QIODevice::ReadOnly) && copy.open(QIODevice::ReadOnly));
+    QCOMPARE(copy.readAll(), original.readAll());
+    QImage const shown(path("edited.png"));
+    QVERIFY(!shown.isNull());
+    QVERIFY(shown != QImage(path("example.png")));
+    QVERIFY(!QFile::exists(path("missing.png")));
 }
 
 QTEST_MAIN(tst_SampleWindow)
