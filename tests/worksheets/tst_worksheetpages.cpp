@@ -130,6 +130,25 @@ struct Fixture
     }
 };
 
+PpgWizardPage *makeUnboundPage(const QString &name)
+{
+    if (name == QLatin1String("WS58440_DisabilitySelf_tab1"))
+        return new WS58440_DisabilitySelf_tab1(nullptr, nullptr, nullptr);
+    if (name == QLatin1String("WS58480_DisabilityDepTransfer_tab1"))
+        return new WS58480_DisabilityDepTransfer_tab1(nullptr, nullptr, nullptr);
+    if (name == QLatin1String("WS58600_tab1"))
+        return new WS58600_tab1(nullptr, nullptr, nullptr);
+    if (name == QLatin1String("WSAdoptionExpense_tab1"))
+        return new WSAdoptionExpense_tab1(nullptr, nullptr, nullptr);
+    if (name == QLatin1String("WSAgeAmount_tab1"))
+        return new WSAgeAmount_tab1(nullptr, nullptr, nullptr);
+    if (name == QLatin1String("WSCaregiverAmt_Dep"))
+        return new WSCaregiverAmt_Dep(nullptr, nullptr, nullptr);
+    if (name == QLatin1String("WSInfirmDepAmt_Dep"))
+        return new WSInfirmDepAmt_Dep(nullptr, nullptr, nullptr);
+    return new WSInfirmDepAmt_SpouseDep(nullptr, nullptr, nullptr);
+}
+
 // A page loaded the way a worksheet dialog loads it.
 struct LoadedPage
 {
@@ -284,6 +303,8 @@ private Q_SLOTS:
     void captions_data();
     void captions();
     void headingShownOnceInWizard();
+    void nullWorksheetLeavesPageInert_data();
+    void nullWorksheetLeavesPageInert();
     void worksheetDialogFromTaxPage();
     void dependantTabsFromTaxPage();
 };
@@ -624,6 +645,36 @@ void tst_WorksheetPages::headingShownOnceInWizard()
     wizard.show();
     QVERIFY(alone->findChild<QLabel *>(QStringLiteral("lblHeading"))->isVisible());
     QVERIFY(!inWizard->findChild<QLabel *>(QStringLiteral("lblHeading"))->isVisible());
+}
+
+void tst_WorksheetPages::nullWorksheetLeavesPageInert_data()
+{
+    QTest::addColumn<QString>("page");
+    for (const QString &page : { disabilitySelf, disabilityTransfer, tuitionPage, adoptionPage, agePage, caregiverPage,
+             infirmPage, spousePage })
+        QTest::newRow(qPrintable(page)) << page;
+}
+
+void tst_WorksheetPages::nullWorksheetLeavesPageInert()
+{
+    QFETCH(QString, page);
+
+    WizardBase wizard(nullptr, QStringLiteral("Worksheet"));
+    PpgWizardPage *built = makeUnboundPage(page);
+    wizard.addPage(built);
+    wizard.initUI(770, 640);
+    const auto amounts = built->findChildren<DoubleLineEdit *>();
+    QVERIFY(!amounts.isEmpty());
+    for (DoubleLineEdit *amount : amounts) {
+        if (!amount->isReadOnly()) {
+            QTest::keyClicks(amount, QStringLiteral("12"));
+            QTest::keyClick(amount, Qt::Key_Enter);
+        }
+        // Nothing was loaded, so a typed text stays and a display box stays empty.
+        QCOMPARE(amount->text(), amount->isReadOnly() ? QString() : QStringLiteral("12"));
+    }
+    if (auto *combo = built->findChild<StyledComboBox *>())
+        QCOMPARE(combo->count(), 0);
 }
 
 void tst_WorksheetPages::worksheetDialogFromTaxPage()
