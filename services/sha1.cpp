@@ -80,12 +80,6 @@ void SHA1::add(void const *data, size_t numBytes)
     shaAppend(m_hash, sha1Compress(), m_numBytes, m_buffer, m_bufferSize, data, numBytes);
 }
 
-void SHA1::processBlock(void const *block)
-{
-    sha1Compress()(m_hash, static_cast<unsigned char const *>(block), 1);
-    m_numBytes += 64;
-}
-
 void SHA1::processBuffer()
 {
     shaFinish(m_hash, sha1Compress(), m_numBytes, m_buffer, m_bufferSize);

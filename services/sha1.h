@@ -46,8 +46,6 @@ public:
     std::string operator()(std::string const &text);
 
 private:
-    /** One compression of a 64-byte block into the state. */
-    void processBlock(void const *block);
     /** Pads the buffered tail and compresses the final one or two blocks. */
     void processBuffer();
 

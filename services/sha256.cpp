@@ -102,12 +102,6 @@ void SHA256::add(void const *data, size_t numBytes)
     shaAppend(m_hash, sha256Compress(), m_numBytes, m_buffer, m_bufferSize, data, numBytes);
 }
 
-void SHA256::processBlock(void const *block)
-{
-    sha256Compress()(m_hash, static_cast<unsigned char const *>(block), 1);
-    m_numBytes += 64;
-}
-
 void SHA256::processBuffer()
 {
     shaFinish(m_hash, sha256Compress(), m_numBytes, m_buffer, m_bufferSize);
