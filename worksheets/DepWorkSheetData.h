@@ -68,9 +68,44 @@ private:
 /**
  * Lines 1 to 4 shared by the infirm-dependant and caregiver worksheets: a
  * base amount less the dependant's net income, limited, less what the other
- * worksheet already claims for the same dependant.
+ * worksheet already claims for the same dependant. The fields follow DepIdx
+ * in this order in both worksheets.
  */
-class LIBCONTROL_EXPORT CWSInfirmDepAmtData : public CWSDepBaseData
+class LIBCONTROL_EXPORT CWSDepClaimLinesData : public CWSDepBaseData
+{
+public:
+    CFloatField BaseAmount;
+    CFloatField DepNetInc;
+    CFloatField fld_3;
+    CBoolField fld_bClaim5816_notused;
+    CFloatField fld_4;
+    CFloatField AmountClaim;
+    /** The limit of fld_3. */
+    double m_dMax3;
+    /** The amount the other worksheet claims. */
+    double m_dOtherAmount;
+    /** The dependant the other worksheet claims for. */
+    int m_nOtherDepIdx;
+
+protected:
+    /** Every field stamped `version`. */
+    explicit CWSDepClaimLinesData(unsigned int version);
+    ~CWSDepClaimLinesData();
+
+    /** Line 1, the limit of line 3, and the other worksheet's dependant index and amount. */
+    void setLineParameters(double base, double max, int otherDepIdx, double otherAmount);
+    /**
+     * Fills lines 2 to 4 from `netIncome`: line 3 is line 1 less line 2
+     * within 0 and m_dMax3; line 4 is the other worksheet's amount when it
+     * claims for this dependant, or always when `alwaysShared`. Returns line
+     * 3 less line 4 and true; with no dependant selected it clears the claim
+     * and returns false.
+     */
+    bool line3LessLine4(double netIncome, bool alwaysShared, double &result);
+};
+
+/** The amount for an infirm dependant aged 18 or older. */
+class LIBCONTROL_EXPORT CWSInfirmDepAmtData : public CWSDepClaimLinesData
 {
 public:
     CWSInfirmDepAmtData();
@@ -85,29 +120,13 @@ public:
      * is always subtracted. Returns 0.
      */
     int Calculate() override;
-
-    CFloatField BaseAmount;
-    CFloatField DepNetInc;
-    CFloatField fld_3;
-    CBoolField fld_bClaim5816_notused;
-    CFloatField fld_4;
-    CFloatField AmountClaim;
-    /** The limit of fld_3. */
-    double m_dMax3;
-    /** The amount the other worksheet claims. */
-    double m_dOtherAmount;
-    /** The dependant the other worksheet claims for. */
-    int m_nOtherDepIdx;
-
-private:
-    void addFields();
 };
 
 /**
  * The caregiver amount: the infirm-dependant lines (same fields, same order)
  * plus an overridable claim.
  */
-class LIBCONTROL_EXPORT CWSCaregiverAmtData : public CWSDepBaseData
+class LIBCONTROL_EXPORT CWSCaregiverAmtData : public CWSDepClaimLinesData
 {
 public:
     CWSCaregiverAmtData();
@@ -123,23 +142,8 @@ public:
      */
     int Calculate() override;
 
-    CFloatField BaseAmount;
-    CFloatField DepNetInc;
-    CFloatField fld_3;
-    CBoolField fld_bClaim5816_notused;
-    CFloatField fld_4;
-    CFloatField AmountClaim;
     /** Keep the user's own AmountClaim when it is not above the computed one. */
     CBoolField bOverwrite;
-    /** The limit of fld_3. */
-    double m_dMax3;
-    /** The amount the other worksheet claims. */
-    double m_dOtherAmount;
-    /** The dependant the other worksheet claims for. */
-    int m_nOtherDepIdx;
-
-private:
-    void addFields();
 };
 
 /** The disability amount transferred from a dependant, with the supplement for a minor. */

@@ -2,62 +2,12 @@
 
 #include <LibControl/worksheets/dependantinfo.h>
 
-#include <optional>
-
 namespace {
 
 // The spouse or eligible dependant of schedule 5, who is not in the list.
 constexpr int SpouseOrEligibleDependant = 303;
 constexpr unsigned int DepNetIncOverwriteVersion = 0x1009a;
 constexpr unsigned int CaregiverOverwriteVersion = 0x10192;
-
-// The infirm-dependant and caregiver worksheets name their lines alike:
-// BaseAmount is line 1, DepNetInc line 2, fld_3 and fld_4 lines 3 and 4.
-//
-// Fills lines 2 to 4: line 3 is line 1 less line 2 within 0 and m_dMax3 (no
-// tolerance on the maximum here); line 4 is the other worksheet's amount when
-// it claims for this dependant, or always when `alwaysShared`. Returns line 3
-// less line 4; with no dependant selected the claim is cleared instead.
-template<class Worksheet>
-std::optional<double> line3LessLine4(Worksheet &ws, double netIncome, bool alwaysShared)
-{
-    int const idx = ws.DepIdx.m_nValue;
-    ws.DepNetInc.m_dValue = idx < 1 ? 0.0 : netIncome;
-    ws.fld_3 = ws.BaseAmount.m_dValue - ws.DepNetInc.m_dValue;
-    if (ws.fld_3.m_dValue < 0)
-        ws.fld_3.m_dValue = 0;
-    if (ws.fld_3.m_dValue > ws.m_dMax3)
-        ws.fld_3.m_dValue = ws.m_dMax3;
-    ws.fld_4.m_dValue = 0;
-    if (idx < 1) {
-        ws.AmountClaim.m_dValue = 0;
-        return std::nullopt;
-    }
-    if (alwaysShared || idx == ws.m_nOtherDepIdx)
-        ws.fld_4.m_dValue = ws.m_dOtherAmount;
-    return ws.fld_3.m_dValue - ws.fld_4.m_dValue;
-}
-
-// The fields the two worksheets share, in archive order; `add` registers one.
-template<class Worksheet, class Add>
-void addLineFields(Worksheet &ws, Add const &add)
-{
-    add(ws.BaseAmount, "BaseAmount");
-    add(ws.DepNetInc, "DepNetInc");
-    add(ws.fld_3, "fld_3");
-    add(ws.fld_bClaim5816_notused, "fld_bClaim5816_notused");
-    add(ws.fld_4, "fld_4");
-    add(ws.AmountClaim, "AmountClaim");
-}
-
-template<class Worksheet>
-void setLineParameters(Worksheet &ws, double base, double max, int otherDepIdx, double otherAmount)
-{
-    ws.BaseAmount.m_dValue = base;
-    ws.m_dMax3 = max;
-    ws.m_nOtherDepIdx = otherDepIdx;
-    ws.m_dOtherAmount = otherAmount;
-}
 
 } // namespace
 
@@ -110,11 +60,9 @@ int CWSDepAmtData::Calculate()
     return 0;
 }
 
-// --- CWSInfirmDepAmtData --------------------------------------------------
+// --- CWSDepClaimLinesData -------------------------------------------------
 
-CWSInfirmDepAmtData::CWSInfirmDepAmtData() : CWSInfirmDepAmtData(WS_DEP_FIELD_VERSION) { }
-
-CWSInfirmDepAmtData::CWSInfirmDepAmtData(unsigned int version)
+CWSDepClaimLinesData::CWSDepClaimLinesData(unsigned int version)
     : CWSDepBaseData(version)
     , BaseAmount(0.0, 0, true, version, FIELD_ATTR_NONE)
     , DepNetInc(0.0, 0, false, version, FIELD_ATTR_NONE)
@@ -126,28 +74,68 @@ CWSInfirmDepAmtData::CWSInfirmDepAmtData(unsigned int version)
     , m_dOtherAmount(0.0)
     , m_nOtherDepIdx(0)
 {
-    addFields();
+    addField(BaseAmount, "BaseAmount");
+    addField(DepNetInc, "DepNetInc");
+    addField(fld_3, "fld_3");
+    addField(fld_bClaim5816_notused, "fld_bClaim5816_notused");
+    addField(fld_4, "fld_4");
+    addField(AmountClaim, "AmountClaim");
+}
+
+CWSDepClaimLinesData::~CWSDepClaimLinesData() = default;
+
+void CWSDepClaimLinesData::setLineParameters(double base, double max, int otherDepIdx, double otherAmount)
+{
+    BaseAmount.m_dValue = base;
+    m_dMax3 = max;
+    m_nOtherDepIdx = otherDepIdx;
+    m_dOtherAmount = otherAmount;
+}
+
+// No tolerance on the maximum here, unlike the plain dependant amount.
+bool CWSDepClaimLinesData::line3LessLine4(double netIncome, bool alwaysShared, double &result)
+{
+    int const idx = DepIdx.m_nValue;
+    DepNetInc.m_dValue = idx < 1 ? 0.0 : netIncome;
+    fld_3 = BaseAmount.m_dValue - DepNetInc.m_dValue;
+    if (fld_3.m_dValue < 0)
+        fld_3.m_dValue = 0;
+    if (fld_3.m_dValue > m_dMax3)
+        fld_3.m_dValue = m_dMax3;
+    fld_4.m_dValue = 0;
+    if (idx < 1) {
+        AmountClaim.m_dValue = 0;
+        return false;
+    }
+    if (alwaysShared || idx == m_nOtherDepIdx)
+        fld_4.m_dValue = m_dOtherAmount;
+    result = fld_3.m_dValue - fld_4.m_dValue;
+    return true;
+}
+
+// --- CWSInfirmDepAmtData --------------------------------------------------
+
+CWSInfirmDepAmtData::CWSInfirmDepAmtData() : CWSInfirmDepAmtData(WS_DEP_FIELD_VERSION) { }
+
+CWSInfirmDepAmtData::CWSInfirmDepAmtData(unsigned int version)
+    : CWSDepClaimLinesData(version)
+{
 }
 
 CWSInfirmDepAmtData::~CWSInfirmDepAmtData() = default;
 
-void CWSInfirmDepAmtData::addFields()
-{
-    addLineFields(*this, [this](CField &field, char const *name) { addField(field, name); });
-}
-
 void CWSInfirmDepAmtData::SetParameterAndF5816Info(double base, double max, int otherDepIdx, double otherAmount)
 {
-    setLineParameters(*this, base, max, otherDepIdx, otherAmount);
+    setLineParameters(base, max, otherDepIdx, otherAmount);
 }
 
 int CWSInfirmDepAmtData::Calculate()
 {
     bool const spouse = DepIdx.m_nValue == SpouseOrEligibleDependant;
-    auto const claim = line3LessLine4(*this, spouse ? DepNetInc.m_dValue : selectedNetIncome(), spouse);
-    if (!claim)
+    double claim = 0;
+    if (!line3LessLine4(spouse ? DepNetInc.m_dValue : selectedNetIncome(), spouse, claim))
         return 0;
-    AmountClaim = *claim;
+    AmountClaim = claim;
     if (AmountClaim.m_dValue < 0)
         AmountClaim.m_dValue = 0;
     return 0;
@@ -158,40 +146,24 @@ int CWSInfirmDepAmtData::Calculate()
 CWSCaregiverAmtData::CWSCaregiverAmtData() : CWSCaregiverAmtData(WS_DEP_FIELD_VERSION) { }
 
 CWSCaregiverAmtData::CWSCaregiverAmtData(unsigned int version)
-    : CWSDepBaseData(version)
-    , BaseAmount(0.0, 0, true, version, FIELD_ATTR_NONE)
-    , DepNetInc(0.0, 0, false, version, FIELD_ATTR_NONE)
-    , fld_3(0.0, 0, false, version, FIELD_ATTR_NONE)
-    , fld_bClaim5816_notused(0, 0, FIELD_ATTR_NONE, 0, version)
-    , fld_4(0.0, 0, false, version, FIELD_ATTR_NONE)
-    , AmountClaim(0.0, 0, false, version, FIELD_ATTR_NONE)
+    : CWSDepClaimLinesData(version)
     , bOverwrite(0, 0, FIELD_ATTR_NONE, 0, CaregiverOverwriteVersion)
-    , m_dMax3(0.0)
-    , m_dOtherAmount(0.0)
-    , m_nOtherDepIdx(0)
 {
-    addFields();
+    addField(bOverwrite, "bOverwrite");
 }
 
 CWSCaregiverAmtData::~CWSCaregiverAmtData() = default;
 
-void CWSCaregiverAmtData::addFields()
-{
-    addLineFields(*this, [this](CField &field, char const *name) { addField(field, name); });
-    addField(bOverwrite, "bOverwrite");
-}
-
 void CWSCaregiverAmtData::SetParameter(double base, double max, int otherDepIdx, double otherAmount)
 {
-    setLineParameters(*this, base, max, otherDepIdx, otherAmount);
+    setLineParameters(base, max, otherDepIdx, otherAmount);
 }
 
 int CWSCaregiverAmtData::Calculate()
 {
-    std::optional<double> const computed = line3LessLine4(*this, selectedNetIncome(), false);
-    if (!computed)
+    double result = 0;
+    if (!line3LessLine4(selectedNetIncome(), false, result))
         return 0;
-    double result = *computed;
     if (bOverwrite.m_nValue) {
         if (AmountClaim.m_dValue > result)
             AmountClaim.m_dValue = result;
