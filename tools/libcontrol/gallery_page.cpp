@@ -111,9 +111,9 @@ public:
     void AssociateFormData() override
     {
         bindField(m_name, &m_form->fld_Name);
-        bindField(static_cast<StyledComboBox *>(m_province), &m_form->fld_Province);
+        bindField(m_province, &m_form->fld_Province);
         bindField(m_birth, &m_form->fld_BirthDate);
-        bindField(static_cast<QCheckBox *>(m_resident), &m_form->fld_Resident);
+        bindField(m_resident, &m_form->fld_Resident);
         for (auto const &amount : { std::make_pair(m_employment, &m_form->fld_10100),
                  std::make_pair(m_dividends, &m_form->fld_12000), std::make_pair(m_age, &m_form->fld_30100),
                  std::make_pair(static_cast<DoubleLineEdit *>(m_carried), &m_form->fld_31260),
